@@ -1,0 +1,68 @@
+# Shared rules for every target of the project: warnings, sanitizers, the
+# platform directory, and the two helpers that declare a library and its tests.
+
+if(WIN32)
+  set(XN_PLATFORM_DIR win)
+else()
+  set(XN_PLATFORM_DIR posix)
+endif()
+
+add_library(xn_options INTERFACE)
+target_compile_options(xn_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wformat=2 -Wimplicit-fallthrough)
+if(XN_WARNINGS_AS_ERRORS)
+  target_compile_options(xn_options INTERFACE -Werror)
+endif()
+if(XN_BUILD_FUZZERS)
+  # Coverage instrumentation everywhere; only the fuzzer executables link the driver.
+  target_compile_options(xn_options INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+  target_link_options(xn_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(XN_SANITIZE)
+  target_compile_options(xn_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(xn_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# xn_library(<name> SOURCES ... [PLATFORM_SOURCES ...] [DEPS ...])
+#
+# One static library per namespace directory. The directory's parent goes on the
+# include path, so users write #include "<name>/Header.h". PLATFORM_SOURCES are
+# file names inside the platform directory (posix/ or win/) that the build picks.
+function(xn_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;PLATFORM_SOURCES;DEPS" ${ARGN})
+  set(platform_sources)
+  foreach(source IN LISTS ARG_PLATFORM_SOURCES)
+    list(APPEND platform_sources ${XN_PLATFORM_DIR}/${source})
+  endforeach()
+  add_library(${name} STATIC ${ARG_SOURCES} ${platform_sources})
+  get_filename_component(parent ${CMAKE_CURRENT_SOURCE_DIR} DIRECTORY)
+  target_include_directories(${name} PUBLIC ${parent})
+  target_link_libraries(${name} PUBLIC ${ARG_DEPS} PRIVATE xn_options)
+  if(XN_BUILD_TESTS AND EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/tests/CMakeLists.txt)
+    add_subdirectory(tests)
+  endif()
+endfunction()
+
+# xn_test(<name> SOURCES ... DEPS ...)
+#
+# A GoogleTest executable whose cases CTest lists one by one.
+function(xn_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_DEPS} GTest::gtest GTest::gmock GTest::gtest_main
+                                        xn_options)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 30)
+endfunction()
+
+# xn_fuzzer(<name> SOURCES ... DEPS ...)
+#
+# A libFuzzer executable fuzz_<name>; its seed corpus lives in corpus/<name>/.
+function(xn_fuzzer name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPS" ${ARGN})
+  add_executable(fuzz_${name} ${ARG_SOURCES})
+  target_link_libraries(fuzz_${name} PRIVATE ${ARG_DEPS} xn_options)
+  target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+endfunction()
