@@ -1,0 +1,22 @@
+// The frame of the program's entry function: what it sets up, in which order,
+// and the one handler through which every failure leaves the program.
+#pragma once
+
+#include <functional>
+
+namespace app {
+
+inline constexpr int exitSuccess = 0;
+inline constexpr int exitFailure = 1;
+
+inline constexpr const char* displayVersion = "7.19.0 (r13)";
+inline constexpr const char* numericVersion = "7.19.0.13";
+
+/// Runs `body` inside the one handler: a plat::Exception that escapes it is
+/// reported and gives exitFailure. Other exceptions are not caught here.
+int runGuarded(const std::function<int()>& body);
+
+/// The whole program: start-up and run, inside the handler. Returns the exit code.
+int runProgram(int argc, char** argv);
+
+} // namespace app

@@ -1,0 +1,65 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "oxnpermissionscreator/CommandLine.h"
+#include "oxnpermissionscreator/EntryFrame.h"
+#include "plat/Exception.h"
+#include "product/ProductVersion.h"
+#include "xnauth/PermissionDefn.h"
+
+namespace {
+
+std::string definedLetters() {
+  std::string letters;
+  for (const auto& defn : xnauth::getPermissionDefns())
+    letters += defn.code;
+  return letters;
+}
+
+TEST(EntryFrame, PlatExceptionGivesExitCodeOneAndOneReport) {
+  testing::internal::CaptureStderr();
+  int code = app::runGuarded([]() -> int { throw plat::Exception("Bad argument '-x'."); });
+  std::string report = testing::internal::GetCapturedStderr();
+
+  EXPECT_EQ(code, app::exitFailure);
+  EXPECT_EQ(report, "Bad argument '-x'.\n");
+}
+
+TEST(EntryFrame, DerivedExceptionsAreCaughtToo) {
+  testing::internal::CaptureStderr();
+  int code = app::runGuarded([]() -> int { throw plat::SystemException("open", 2); });
+  std::string report = testing::internal::GetCapturedStderr();
+
+  EXPECT_EQ(code, app::exitFailure);
+  EXPECT_THAT(report, testing::StartsWith("open: "));
+}
+
+TEST(EntryFrame, OtherExceptionsAreNotCaught) {
+  EXPECT_THROW(app::runGuarded([]() -> int { throw std::runtime_error("not ours"); }),
+               std::runtime_error);
+}
+
+TEST(EntryFrame, BodyResultIsTheExitCode) {
+  EXPECT_EQ(app::runGuarded([] { return app::exitSuccess; }), app::exitSuccess);
+}
+
+TEST(EntryFrame, WithoutArgumentsRunsToTheEndAndDefinesTheTwelveLetters) {
+  char program[] = "oxnpermissionscreator";
+  char* argv[] = {program, nullptr};
+
+  EXPECT_EQ(app::runProgram(1, argv), app::exitSuccess);
+  EXPECT_EQ(definedLetters(), "skpcznlhtrwq");
+  EXPECT_STREQ(product::productVersion(), "7.19.0 (r13)");
+  EXPECT_STREQ(product::productBuildVersion(), "7.19.0.13");
+  ASSERT_EQ(app::processArgumentCount(), 1);
+  EXPECT_STREQ(app::processArguments()[0], "oxnpermissionscreator");
+
+  // A second run must not define anything twice.
+  EXPECT_EQ(app::runProgram(1, argv), app::exitSuccess);
+  EXPECT_EQ(definedLetters(), "skpcznlhtrwq");
+}
+
+} // namespace
