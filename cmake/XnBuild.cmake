@@ -38,6 +38,7 @@ function(xn_library name)
     list(APPEND platform_sources ${XN_PLATFORM_DIR}/${source})
   endforeach()
   add_library(${name} STATIC ${ARG_SOURCES} ${platform_sources})
+  set_property(GLOBAL APPEND PROPERTY XN_LIBRARIES ${name})
   get_filename_component(parent ${CMAKE_CURRENT_SOURCE_DIR} DIRECTORY)
   target_include_directories(${name} PUBLIC ${parent})
   target_link_libraries(${name} PUBLIC ${ARG_DEPS} PRIVATE xn_options)
@@ -54,7 +55,26 @@ function(xn_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_DEPS} GTest::gtest GTest::gmock GTest::gtest_main
                                         xn_options)
+  xn_executable(${name})
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 30)
+endfunction()
+
+# xn_executable(<target>)
+#
+# Parameters, log sources and catalogs register themselves from static objects
+# that nothing else references, so every program links the project's libraries
+# whole. xn_link_whole_archives() applies that once all libraries are known.
+function(xn_executable target)
+  set_property(GLOBAL APPEND PROPERTY XN_EXECUTABLES ${target})
+endfunction()
+
+function(xn_link_whole_archives)
+  get_property(libraries GLOBAL PROPERTY XN_LIBRARIES)
+  get_property(executables GLOBAL PROPERTY XN_EXECUTABLES)
+  list(JOIN libraries "," joined)
+  foreach(executable IN LISTS executables)
+    set_property(TARGET ${executable} PROPERTY LINK_LIBRARY_OVERRIDE "WHOLE_ARCHIVE,${joined}")
+  endforeach()
 endfunction()
 
 # xn_fuzzer(<name> SOURCES ... DEPS ...)
@@ -65,4 +85,5 @@ function(xn_fuzzer name)
   add_executable(fuzz_${name} ${ARG_SOURCES})
   target_link_libraries(fuzz_${name} PRIVATE ${ARG_DEPS} xn_options)
   target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+  xn_executable(fuzz_${name})
 endfunction()
