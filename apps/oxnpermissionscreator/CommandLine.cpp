@@ -16,7 +16,9 @@ ArgumentStore& argumentStore() {
   return store;
 }
 
-bool isBlank(char ch) { return ch == ' ' || ch == '\t'; }
+bool isBlank(char ch) {
+  return ch == ' ' || ch == '\t';
+}
 
 } // namespace
 
@@ -74,8 +76,12 @@ void setProcessArguments(std::vector<plat::String> arguments) {
   store.pointers.push_back(nullptr);
 }
 
-const char* const* processArguments() { return argumentStore().pointers.data(); }
+const char* const* processArguments() {
+  return argumentStore().pointers.data();
+}
 
-int processArgumentCount() { return static_cast<int>(argumentStore().arguments.size()); }
+int processArgumentCount() {
+  return static_cast<int>(argumentStore().arguments.size());
+}
 
 } // namespace app

@@ -2,9 +2,9 @@
 // command-line string into arguments on platforms that hand over only that.
 #pragma once
 
-#include <vector>
-
 #include "plat/String.h"
+
+#include <vector>
 
 namespace app {
 

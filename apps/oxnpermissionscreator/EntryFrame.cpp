@@ -1,11 +1,12 @@
 #include "oxnpermissionscreator/EntryFrame.h"
 
-#include <cstdio>
-
 #include "oxnpermissionscreator/CommandLine.h"
 #include "oxnpermissionscreator/FeaturePermissions.h"
+
 #include "plat/Exception.h"
 #include "product/ProductVersion.h"
+
+#include <cstdio>
 
 namespace app {
 

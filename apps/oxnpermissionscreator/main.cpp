@@ -1,3 +1,5 @@
 #include "oxnpermissionscreator/EntryFrame.h"
 
-int main(int argc, char** argv) { return app::runProgram(argc, argv); }
+int main(int argc, char** argv) {
+  return app::runProgram(argc, argv);
+}

@@ -1,9 +1,9 @@
+#include "oxnpermissionscreator/CommandLine.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "oxnpermissionscreator/CommandLine.h"
 
 namespace {
 
@@ -29,26 +29,28 @@ TEST_P(SplitCommandLine, FollowsTheQuotingRules) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, SplitCommandLine,
-    testing::Values(
-        SplitCase{"prog a \"b c\" d\\\"e", {"prog", "a", "b c", "d\"e"}},
-        SplitCase{"", {}}, SplitCase{" \t ", {}},
-        SplitCase{"prog  \t a\t\tb  ", {"prog", "a", "b"}},
-        // An empty pair of quotes is an empty argument, also between others.
-        SplitCase{"prog \"\" x", {"prog", "", "x"}}, SplitCase{"\"\"", {""}},
-        // Backslashes before anything but a quote stand for themselves.
-        SplitCase{"C:\\dir\\file a\\\\b", {"C:\\dir\\file", "a\\\\b"}},
-        // Even run before a quote: half the backslashes, and the quote toggles.
-        SplitCase{"a\\\\\"b c\"", {"a\\b c"}},
-        // Odd run before a quote: half the backslashes and a literal quote.
-        SplitCase{"a\\\\\\\"b c", {"a\\\"b", "c"}},
-        // Quoting may start and stop inside one argument.
-        SplitCase{"-Name=\"two words\"tail next", {"-Name=two wordstail", "next"}},
-        // An unterminated quote runs to the end of the line.
-        SplitCase{"a \"b c", {"a", "b c"}},
-        // Text other than blanks, including UTF-8, passes through unchanged.
-        SplitCase{"\xc3\xa9t\xc3\xa9 \"\xe4\xb8\xad \xe6\x96\x87\"", {"\xc3\xa9t\xc3\xa9", "\xe4\xb8\xad \xe6\x96\x87"}}));
+    testing::Values(SplitCase{"prog a \"b c\" d\\\"e", {"prog", "a", "b c", "d\"e"}},
+                    SplitCase{"", {}}, SplitCase{" \t ", {}},
+                    SplitCase{"prog  \t a\t\tb  ", {"prog", "a", "b"}},
+                    // An empty pair of quotes is an empty argument, also between others.
+                    SplitCase{"prog \"\" x", {"prog", "", "x"}}, SplitCase{"\"\"", {""}},
+                    // Backslashes before anything but a quote stand for themselves.
+                    SplitCase{"C:\\dir\\file a\\\\b", {"C:\\dir\\file", "a\\\\b"}},
+                    // Even run before a quote: half the backslashes, and the quote toggles.
+                    SplitCase{"a\\\\\"b c\"", {"a\\b c"}},
+                    // Odd run before a quote: half the backslashes and a literal quote.
+                    SplitCase{"a\\\\\\\"b c", {"a\\\"b", "c"}},
+                    // Quoting may start and stop inside one argument.
+                    SplitCase{"-Name=\"two words\"tail next", {"-Name=two wordstail", "next"}},
+                    // An unterminated quote runs to the end of the line.
+                    SplitCase{"a \"b c", {"a", "b c"}},
+                    // Text other than blanks, including UTF-8, passes through unchanged.
+                    SplitCase{"\xc3\xa9t\xc3\xa9 \"\xe4\xb8\xad \xe6\x96\x87\"",
+                              {"\xc3\xa9t\xc3\xa9", "\xe4\xb8\xad \xe6\x96\x87"}}));
 
-TEST(SplitCommandLine, NullLineGivesNoArguments) { EXPECT_TRUE(app::splitCommandLine(nullptr).empty()); }
+TEST(SplitCommandLine, NullLineGivesNoArguments) {
+  EXPECT_TRUE(app::splitCommandLine(nullptr).empty());
+}
 
 TEST(ProcessArguments, AreUtf8AndEndWithANullEntry) {
   char program[] = "/usr/bin/prog";

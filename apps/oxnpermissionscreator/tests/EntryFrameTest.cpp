@@ -1,14 +1,16 @@
+#include "oxnpermissionscreator/EntryFrame.h"
+
+#include "oxnpermissionscreator/CommandLine.h"
+
+#include "plat/Exception.h"
+#include "product/ProductVersion.h"
+#include "xnauth/PermissionDefn.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
-
-#include "oxnpermissionscreator/CommandLine.h"
-#include "oxnpermissionscreator/EntryFrame.h"
-#include "plat/Exception.h"
-#include "product/ProductVersion.h"
-#include "xnauth/PermissionDefn.h"
 
 namespace {
 

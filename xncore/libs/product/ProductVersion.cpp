@@ -28,8 +28,12 @@ void setProductVersion(const char* displayVersion, const char* numericVersion) {
   replaceIfDifferent(storedBuildVersion(), numericVersion);
 }
 
-const char* productVersion() noexcept { return storedVersion().get(); }
+const char* productVersion() noexcept {
+  return storedVersion().get();
+}
 
-const char* productBuildVersion() noexcept { return storedBuildVersion().get(); }
+const char* productBuildVersion() noexcept {
+  return storedBuildVersion().get();
+}
 
 } // namespace product

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "product/ProductVersion.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
