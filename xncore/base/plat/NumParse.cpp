@@ -33,7 +33,8 @@ private:
 template <class Result, class Wide, class Convert>
 bool convert(Result& result, const char*& cursor, int base, Convert libraryConvert) noexcept {
   result = 0;
-  if (!cursor)
+  // The C library rejects such a base without setting `end`, so it is refused here.
+  if (!cursor || base < 0 || base == 1 || base > 36)
     return false;
   ErrnoKeeper keeper;
   char* end = nullptr;

@@ -128,8 +128,9 @@ bool endsWithNoCase(const char* text, const char* suffix) noexcept {
 }
 
 const char* findNoCase(const char* text, const char* needle) noexcept {
+  // A null needle matches everything, as for the prefix tests.
   if (!text || !needle)
-    return nullptr;
+    return text;
   std::size_t needleLength = std::strlen(needle);
   for (const char* scan = text;; ++scan) {
     if (equalNoCase(scan, needle, needleLength))
