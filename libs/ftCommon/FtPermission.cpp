@@ -1,0 +1,7 @@
+#include "ftCommon/FtPermission.h"
+
+namespace ftCommon {
+
+FtPermission::FtPermission() : FeaturePermission('t', "ft_permission_desc", "fd", "ShareFiles") {}
+
+} // namespace ftCommon

@@ -1,0 +1,8 @@
+#include "print/PrintPermission.h"
+
+namespace print {
+
+PrintPermission::PrintPermission()
+    : FeaturePermission('r', "print_permission_desc", "fd", "EnableRemotePrinting") {}
+
+} // namespace print

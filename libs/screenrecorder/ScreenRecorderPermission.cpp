@@ -1,0 +1,8 @@
+#include "screenrecorder/ScreenRecorderPermission.h"
+
+namespace screenrecorder {
+
+ScreenRecorderPermission::ScreenRecorderPermission()
+    : FeaturePermission('w', "screenrecorder_permission_desc", "fd", "SessionRecordEnable") {}
+
+} // namespace screenrecorder
