@@ -64,6 +64,8 @@ endfunction()
 # Parameters, log sources and catalogs register themselves from static objects
 # that nothing else references, so every program links the project's libraries
 # whole. xn_link_whole_archives() applies that once all libraries are known.
+# A whole archive may appear only once on a link line, so DEPS lists a library
+# before the libraries it builds on (as a static link line would order them).
 function(xn_executable target)
   set_property(GLOBAL APPEND PROPERTY XN_EXECUTABLES ${target})
 endfunction()
