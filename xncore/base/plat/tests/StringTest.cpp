@@ -155,6 +155,10 @@ TEST(StringUtils, Tokenisers) {
   EXPECT_EQ(tokens("", plain), (Tokens{""}));
   EXPECT_EQ(tokens(",,a,,b,,", skipping), (Tokens{"a", "b"}));
   EXPECT_EQ(tokens(",,,", skipping), Tokens{});
+  char trailing[] = "a,,";
+  char* rest = trailing;
+  EXPECT_STREQ(plat::nextToken(rest, ',', true), "a");
+  EXPECT_EQ(rest, nullptr); // only delimiters were left
 
   auto anySkipping = [](char*& at) { return plat::nextTokenAny(at, " \t", nullptr, true); };
   EXPECT_EQ(tokens("\t a \t b  ", anySkipping), (Tokens{"a", "b"}));
