@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cxxabi.h>
+#include <vector>
 
 #include "plat/DString.h"
 #include "plat/StackTrace.h"

@@ -2,11 +2,11 @@
 // every byte is wiped before it is released, for buffers that hold secrets.
 #pragma once
 
+#include "plat/SecureWipe.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <utility>
-
-#include "plat/SecureWipe.h"
 
 namespace plat {
 
@@ -49,7 +49,7 @@ public:
   /// Changes the element count. The block is kept when shrinking by no more
   /// than half (or while small); otherwise a new one takes the old elements.
   void resize(std::int32_t length) {
-    if (length <= length_ && (length >= length_ / 2 || length_ < 128)) {
+    if (length <= length_ && (2 * static_cast<std::int64_t>(length) >= length_ || length_ < 128)) {
       if (secure_ && length < length_)
         secureWipe(data_ + length, sizeof(T) * static_cast<std::size_t>(length_ - length));
       length_ = length;

@@ -23,10 +23,10 @@ TEST(MBuf, ResizeKeepsOrReallocates) {
     bool kept;
   };
   const Case cases[] = {
-      {10, 10, true},   {10, 0, true},   // small blocks are always kept when shrinking
-      {127, 1, true},   {128, 64, true}, // at least half
-      {128, 63, false}, {200, 100, true}, {200, 99, false},
-      {200, 0, false},  {10, 11, false}, // growing always reallocates
+      {10, 10, true},    {10, 0, true},   // small blocks are always kept when shrinking
+      {127, 1, true},    {128, 64, true}, // at least half
+      {128, 63, false},  {200, 100, true}, {200, 99, false}, {201, 101, true},
+      {201, 100, false}, {200, 0, false},  {10, 11, false}, // growing always reallocates
       {0, 4, false},
   };
   for (const Case& c : cases) {
