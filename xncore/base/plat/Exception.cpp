@@ -1,6 +1,5 @@
 #include "plat/Exception.h"
 
-#include <atomic>
 #include <cerrno>
 #include <cstring>
 
@@ -125,14 +124,6 @@ void StdlibException::appendLibraryText() noexcept {
   appendMessage(text);
   appendMessageFormat(" (%d)", code_);
 }
-
-namespace {
-std::atomic<bool> badUtf8AssertFlag{false};
-}
-
-bool badUtf8Asserts() noexcept { return badUtf8AssertFlag.load(std::memory_order_relaxed); }
-
-void setBadUtf8Asserts(bool on) noexcept { badUtf8AssertFlag.store(on, std::memory_order_relaxed); }
 
 BadUtf8::BadUtf8(const char* text) noexcept : Exception(text) { finish(); }
 

@@ -103,8 +103,9 @@ private:
   void finish() noexcept;
 };
 
-/// Whether a BadUtf8 turns into a fatal assertion (parameter _BadUtf8Assert).
+/// Whether a BadUtf8 turns into a fatal assertion: the parameter _BadUtf8Assert.
 bool badUtf8Asserts() noexcept;
+/// Sets _BadUtf8Assert at priority 10, as the command line would.
 void setBadUtf8Asserts(bool on) noexcept;
 
 class DynamicFnLoadFailed : public Exception {

@@ -1,0 +1,22 @@
+#include "plat/LogParameters.h"
+
+#include <climits>
+
+namespace plat {
+
+// Read by the reconfiguration of log sources.
+StringParameter logParameter("Log", DescKey{"plat_param_log"}, "");
+// Read by the manager of the destination "file".
+StringParameter logDirParameter("LogDir", DescKey{"plat_param_logdir"}, "");
+StringParameter logFileParameter("LogFile", DescKey{"plat_param_logfile"}, "");
+// Read by the rotation of log files.
+IntParameter logKeepDaysParameter("LogKeepDays", DescKey{"plat_param_log_keep_days"}, 30, false,
+                                  nullptr, 0, INT_MAX);
+// Read by the line format of file destinations.
+BoolParameter compactLogParameter("CompactLog",
+                                  "Whether to produce more compact logging lines for "
+                                  "readability.  Also produces times in local timezone instead "
+                                  "of UTC",
+                                  false, true);
+
+} // namespace plat
