@@ -86,7 +86,7 @@ void splitTicks(Ticks ticks, std::int32_t& year, std::int32_t& month, std::int32
                 std::int32_t& hour, std::int32_t& minute, std::int32_t& second, std::int32_t& wday,
                 std::int32_t& yday) noexcept {
   std::int64_t days = floorDiv(ticks, ticksPerDay);
-  std::int64_t secondOfDay = (ticks - days * ticksPerDay) / ticksPerSecond;
+  std::int64_t secondOfDay = floorMod(ticks, ticksPerDay) / ticksPerSecond;
   hour = static_cast<std::int32_t>(secondOfDay / 3600);
   minute = static_cast<std::int32_t>(secondOfDay / 60 % 60);
   second = static_cast<std::int32_t>(secondOfDay % 60);
@@ -126,6 +126,13 @@ Ticks unixToTicks(std::int64_t seconds) noexcept {
   if (sum > maxSeconds)
     return std::numeric_limits<Ticks>::max();
   return sum * ticksPerSecond;
+}
+
+Ticks unixToTicks(std::int64_t seconds, std::int64_t nanoseconds) noexcept {
+  Ticks whole = unixToTicks(seconds);
+  Ticks fraction = nanoseconds / 100;
+  return whole > std::numeric_limits<Ticks>::max() - fraction ? std::numeric_limits<Ticks>::max()
+                                                              : whole + fraction;
 }
 
 Ticks fieldsToTicks(const DateFields& fields) {

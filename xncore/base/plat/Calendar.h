@@ -57,6 +57,9 @@ void splitTicks(Ticks ticks, std::int32_t& year, std::int32_t& month, std::int32
 
 /// Seconds since 1970 as ticks, saturating at the ends of the 64-bit range.
 Ticks unixToTicks(std::int64_t seconds) noexcept;
+/// As above, with the nanoseconds (0 to 999,999,999) of a time in the C
+/// library's form added; still saturating.
+Ticks unixToTicks(std::int64_t seconds, std::int64_t nanoseconds) noexcept;
 
 /// makeTicks of the fields; raises for invalid fields.
 Ticks fieldsToTicks(const DateFields& fields);

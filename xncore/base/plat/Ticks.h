@@ -29,9 +29,11 @@ constexpr std::int64_t floorDiv(std::int64_t value, std::int64_t divisor) noexce
   return (value % divisor != 0 && (value < 0) != (divisor < 0)) ? quotient - 1 : quotient;
 }
 
-/// The remainder that goes with floorDiv: it has the sign of the divisor.
+/// The remainder that goes with floorDiv: it has the sign of the divisor. It is
+/// found without multiplying the quotient back, which could overflow.
 constexpr std::int64_t floorMod(std::int64_t value, std::int64_t divisor) noexcept {
-  return value - floorDiv(value, divisor) * divisor;
+  std::int64_t remainder = value % divisor;
+  return (remainder != 0 && (remainder < 0) != (divisor < 0)) ? remainder + divisor : remainder;
 }
 
 } // namespace plat

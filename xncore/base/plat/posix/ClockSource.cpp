@@ -10,7 +10,6 @@ namespace plat {
 namespace {
 
 constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
-constexpr std::int64_t nanosecondsPerTick = 100;
 
 // clock_gettime cannot fail for these clocks with a valid pointer.
 timespec readClock(clockid_t clock) noexcept {
@@ -23,7 +22,7 @@ timespec readClock(clockid_t clock) noexcept {
 
 Ticks timeNow() noexcept {
   timespec now = readClock(CLOCK_REALTIME);
-  return unixToTicks(now.tv_sec) + now.tv_nsec / nanosecondsPerTick;
+  return unixToTicks(now.tv_sec, now.tv_nsec);
 }
 
 // The counter is CLOCK_MONOTONIC in nanoseconds.

@@ -112,7 +112,7 @@ std::int64_t fileGetSize(const char* path) {
 
 Ticks fileGetTime(const char* path) {
   struct stat info = statOrThrow(path, "fileGetTime");
-  return unixToTicks(info.st_mtim.tv_sec) + info.st_mtim.tv_nsec / 100;
+  return unixToTicks(info.st_mtim.tv_sec, info.st_mtim.tv_nsec);
 }
 
 int fileOpenFd(const char* path, int mode, int permissions) {

@@ -271,6 +271,15 @@ TEST(CalendarUnixToTicks, ShiftsAndSaturates) {
     EXPECT_EQ(unixToTicks(c.seconds), c.ticks) << c.seconds;
 }
 
+TEST(CalendarUnixToTicks, AddsNanosecondsInWholeTicks) {
+  EXPECT_EQ(unixToTicks(0, 0), unixEpochSeconds * ticksPerSecond);
+  EXPECT_EQ(unixToTicks(0, 999'999'999), unixEpochSeconds * ticksPerSecond + 9'999'999);
+  EXPECT_EQ(unixToTicks(-unixEpochSeconds - 1, 500'000'000), -ticksPerSecond / 2);
+  EXPECT_EQ(unixToTicks(std::numeric_limits<std::int64_t>::max(), 999'999'999), maxTicks);
+  EXPECT_EQ(unixToTicks(std::numeric_limits<std::int64_t>::min(), 999'999'999),
+            minTicks + 9'999'999);
+}
+
 DateFields fieldsOf(std::int32_t tmYear, std::int32_t tmMon, std::int32_t mday, std::int32_t hour,
                     std::int32_t minute, std::int32_t second) {
   DateFields fields;
