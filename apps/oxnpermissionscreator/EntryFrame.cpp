@@ -3,8 +3,10 @@
 #include "oxnpermissionscreator/CommandLine.h"
 #include "oxnpermissionscreator/FeaturePermissions.h"
 
+#include "plat/Configuration.h"
 #include "plat/Exception.h"
 #include "product/ProductVersion.h"
+#include "product/StandardHelp.h"
 
 #include <cstdio>
 
@@ -16,6 +18,15 @@ namespace {
 void reportFailure(const plat::Exception& failure) {
   std::fprintf(stderr, "%s\n", failure.what());
   std::fflush(stderr);
+}
+
+// Arguments from argument 1 on are parameter settings, at priority 10; a help
+// request ends the process from inside, and a bad argument raises.
+void applyCommandLine() {
+  const char* const* arguments = processArguments();
+  if (*arguments)
+    ++arguments;
+  plat::Configuration::global().parseArgs(arguments, product::standardHelp);
 }
 
 } // namespace
@@ -33,6 +44,7 @@ int runProgram(int argc, char** argv) {
   return runGuarded([argc, argv] {
     setProcessArguments(fetchProcessArguments(argc, argv));
     product::setProductVersion(displayVersion, numericVersion);
+    applyCommandLine();
     defineFeaturePermissions();
     return exitSuccess;
   });
