@@ -27,6 +27,12 @@ std::string text(const plat::String& value) {
   return value.orEmpty();
 }
 
+// An alias that never expands.
+struct RefusingAlias : plat::ParameterAlias {
+  RefusingAlias() : ParameterAlias("Count") {}
+  bool expand(const char*, const char*, plat::ParamValueMap&) const override { return false; }
+};
+
 // A root with one subgroup, as the program's configuration has.
 class Groups : public testing::Test {
 protected:
@@ -51,13 +57,6 @@ TEST(GlobalGroup, IsOneNamedGroupFromAnyThread) {
     EXPECT_EQ(group, &plat::Configuration::global());
   EXPECT_STREQ(plat::Configuration::global().name(), "Global");
   EXPECT_STREQ(plat::englishText(plat::Configuration::global().titleKey()), "Global parameters");
-}
-
-TEST(GlobalGroup, DeclaredParametersRegisterThere) {
-  plat::ConfigParameter* keepDays = plat::Configuration::global().findParam("logkeepdays");
-  ASSERT_NE(keepDays, nullptr);
-  EXPECT_STREQ(keepDays->name(), "LogKeepDays");
-  EXPECT_NE(plat::Configuration::global().findParam("_BadUtf8Assert"), nullptr);
 }
 
 TEST_F(Groups, FindParamIgnoresCaseAndRecursesOnRequest) {
@@ -130,10 +129,7 @@ TEST_F(Groups, AliasesSetTheirTargets) {
 }
 
 TEST_F(Groups, AliasExpansionOutcomes) {
-  struct Refusing : plat::ParameterAlias {
-    Refusing() : ParameterAlias("Count") {}
-    bool expand(const char*, const char*, plat::ParamValueMap&) const override { return false; }
-  } refusing;
+  RefusingAlias refusing;
   plat::ParameterAlias empty(nullptr);
   root.addAlias("Refusing", &refusing);
   root.addAlias("Empty", &empty);
@@ -292,10 +288,7 @@ TEST_F(Groups, MigrateAliasesRewritesRetiredNames) {
   plat::ParameterAlias oldCount("OldCount", count, &root);
   plat::ParameterAlias oldName("OldName", name, &child);
   plat::ParameterAlias oldFlag("OldFlag", flag, &root);
-  struct Refusing : plat::ParameterAlias {
-    Refusing() : ParameterAlias("Count") {}
-    bool expand(const char*, const char*, plat::ParamValueMap&) const override { return false; }
-  } refusing;
+  RefusingAlias refusing;
   root.addAlias("Broken", &refusing);
 
   FakeStore store;

