@@ -17,7 +17,8 @@ endif()
 if(XN_BUILD_FUZZERS)
   # Coverage instrumentation everywhere; only the fuzzer executables link the driver.
   target_compile_options(xn_options INTERFACE
-    -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined
+    -fno-omit-frame-pointer)
   target_link_options(xn_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(XN_SANITIZE)

@@ -3,10 +3,10 @@
 // message never allocates and never fails.
 #pragma once
 
+#include "plat/Compiler.h"
+
 #include <cstdarg>
 #include <cstddef>
-
-#include "plat/Compiler.h"
 
 namespace plat {
 
@@ -15,7 +15,8 @@ void appendBounded(char* buffer, std::size_t size, const char* text, int maxLen 
 
 void appendBoundedFormat(char* buffer, std::size_t size, const char* format, ...)
     XN_PRINTF_FORMAT(3, 4);
-void appendBoundedFormatV(char* buffer, std::size_t size, const char* format, va_list args);
+void appendBoundedFormatV(char* buffer, std::size_t size, const char* format, va_list args)
+    XN_PRINTF_FORMAT(3, 0);
 
 /// Appends `codePoint` `count` times, fewer when not all whole characters fit.
 void appendBoundedChar(char* buffer, std::size_t size, int codePoint, int count);

@@ -3,11 +3,11 @@
 // to the next power of two, so repeated appends stay linear.
 #pragma once
 
-#include <cstdarg>
-#include <cstdint>
-
 #include "plat/Compiler.h"
 #include "plat/String.h"
+
+#include <cstdarg>
+#include <cstdint>
 
 namespace plat {
 
@@ -35,7 +35,7 @@ public:
   /// Appends `codePoint` in UTF-8 `count` times.
   void appendChar(int codePoint, int count = 1);
   void appendFormat(const char* format, ...) XN_PRINTF_FORMAT(2, 3);
-  void appendFormatV(const char* format, va_list args);
+  void appendFormatV(const char* format, va_list args) XN_PRINTF_FORMAT(2, 0);
   /// Cuts the contents to `length` bytes; longer than the contents does nothing.
   void truncate(int length) noexcept;
   /// Makes the contents empty, keeping the buffer.
@@ -62,7 +62,7 @@ private:
 
 /// A new string formatted with printf rules.
 String strFormat(const char* format, ...) XN_PRINTF_FORMAT(1, 2);
-String strFormatV(const char* format, va_list args);
+String strFormatV(const char* format, va_list args) XN_PRINTF_FORMAT(1, 0);
 
 /// `text` with every `from` replaced by `to`; `from` must not be empty.
 String replaceAll(const char* text, const char* from, const char* to);

@@ -3,11 +3,11 @@
 // allocates; text that does not fit is cut on a character boundary.
 #pragma once
 
-#include <cstdarg>
-#include <cstddef>
-
 #include "plat/Compiler.h"
 #include "plat/String.h"
+
+#include <cstdarg>
+#include <cstddef>
 
 namespace plat {
 
@@ -39,7 +39,7 @@ public:
 protected:
   void appendMessage(const char* text) noexcept;
   void appendMessageFormat(const char* format, ...) noexcept XN_PRINTF_FORMAT(2, 3);
-  void appendMessageFormatV(const char* format, va_list args) noexcept;
+  void appendMessageFormatV(const char* format, va_list args) noexcept XN_PRINTF_FORMAT(2, 0);
   void setTypeFormat(const char* format, ...) noexcept XN_PRINTF_FORMAT(2, 3);
   std::size_t messageLength() const noexcept;
 

@@ -42,7 +42,7 @@ public:
   void debug(const char* format, ...) XN_PRINTF_FORMAT(2, 3);
   void trace(const char* format, ...) XN_PRINTF_FORMAT(2, 3);
   void write(int level, const char* format, ...) XN_PRINTF_FORMAT(3, 4);
-  void writeV(int level, const char* format, va_list args);
+  void writeV(int level, const char* format, va_list args) XN_PRINTF_FORMAT(3, 0);
   /// Writes each non-empty line of `text` as a message of its own.
   void writeLines(int level, const char* text);
 
