@@ -1,5 +1,7 @@
 #include "plat/String.h"
 
+#include "plat/DString.h"
+#include "plat/Exception.h"
 #include "plat/StringUtils.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +13,7 @@
 
 namespace {
 
+using plat::DString;
 using plat::String;
 
 TEST(String, NullIsDistinctFromEmptyAndOrdersFirst) {
@@ -19,123 +22,48 @@ TEST(String, NullIsDistinctFromEmptyAndOrdersFirst) {
   EXPECT_NE(null, empty);
   EXPECT_TRUE(null < empty);
   EXPECT_TRUE(empty < String("a"));
-  EXPECT_TRUE(null == static_cast<const char*>(nullptr));
   EXPECT_FALSE(empty == static_cast<const char*>(nullptr));
-  EXPECT_EQ(plat::compare(nullptr, nullptr), 0);
   EXPECT_LT(plat::compare(nullptr, ""), 0);
-  EXPECT_GT(plat::compare("", nullptr), 0);
+  EXPECT_EQ(plat::compare(nullptr, nullptr), 0);
 
-  String copy(empty);
-  EXPECT_EQ(copy, "");
-  EXPECT_NE(copy.get(), empty.get());
-  EXPECT_TRUE(String(null).isNull());
-  const char* block = copy.get();
-  String moved(std::move(copy));
-  EXPECT_EQ(moved.get(), block);
-  EXPECT_TRUE(copy.isNull()); // NOLINT(bugprone-use-after-move)
-}
-
-TEST(String, BoundedDuplicateLengthAndCopy) {
   EXPECT_TRUE(plat::strDup(nullptr, 3).isNull());
-  // A zero bound still gives a string, not null.
-  String none = plat::strDup("abc", 0);
-  ASSERT_FALSE(none.isNull());
-  EXPECT_STREQ(none.get(), "");
+  EXPECT_EQ(plat::strDup("abc", 0), empty); // a zero bound still gives a string
   EXPECT_STREQ(plat::strDup("abc", 2).get(), "ab");
-  EXPECT_STREQ(plat::strDup("abc", 10).get(), "abc");
-  EXPECT_STREQ(plat::strDup("abc", -1).get(), "abc");
-
-  EXPECT_EQ(plat::strLenMax("abcdef", 4), 4u);
-  EXPECT_EQ(plat::strLenMax("ab", 4), 2u);
-  EXPECT_EQ(plat::strLenMax("abcdef", -1), 6u);
-
-  char dest[4] = {'x', 'x', 'x', 'x'};
-  EXPECT_EQ(plat::strCopy(dest, "abcdef", sizeof dest), 6u);
-  EXPECT_STREQ(dest, "abc");
-  EXPECT_EQ(plat::strCopy(dest, nullptr, sizeof dest), 0u);
-  EXPECT_STREQ(dest, "");
 }
 
-TEST(StringUtils, PrefixAndSuffixRules) {
-  struct Case {
-    const char* text;
-    const char* affix;
-    bool starts, startsNoCase, ends, endsNoCase;
-  };
-  const Case cases[] = {
-      {"Hello", "He", true, true, false, false},       {"Hello", "he", false, true, false, false},
-      {"Hello", "LLO", false, false, false, true},     {"Hello", "llo", false, false, true, true},
-      {"Hello", "Hello!", false, false, false, false}, {"Hello", "", true, true, true, true},
-      {"Hello", nullptr, true, true, true, true},      {nullptr, nullptr, true, true, true, true},
-      {nullptr, "", true, true, true, true},           {nullptr, "a", false, false, false, false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(std::string(c.text ? c.text : "<null>") + " / " + (c.affix ? c.affix : "<null>"));
-    EXPECT_EQ(plat::startsWith(c.text, c.affix), c.starts);
-    EXPECT_EQ(plat::startsWithNoCase(c.text, c.affix), c.startsNoCase);
-    EXPECT_EQ(plat::endsWith(c.text, c.affix), c.ends);
-    EXPECT_EQ(plat::endsWithNoCase(c.text, c.affix), c.endsNoCase);
+TEST(StringUtils, AffixesSearchAndTransforms) {
+  // A null affix matches everything; null text matches only an empty affix.
+  // Columns: startsWith, startsWithNoCase, endsWith, endsWithNoCase.
+  const char* const cases[][3] = {{"Hello", "he", "0100"},    {"Hello", "LLO", "0001"},
+                                  {"Hello", "llo", "0011"},   {"Hello", "Hello!", "0000"},
+                                  {"Hello", nullptr, "1111"}, {nullptr, "", "1111"},
+                                  {nullptr, "a", "0000"}};
+  for (const auto& c : cases) {
+    std::string got;
+    for (bool match : {plat::startsWith(c[0], c[1]), plat::startsWithNoCase(c[0], c[1]),
+                       plat::endsWith(c[0], c[1]), plat::endsWithNoCase(c[0], c[1])})
+      got += match ? '1' : '0';
+    EXPECT_EQ(got, c[2]) << (c[0] ? c[0] : "<null>") << " / " << (c[1] ? c[1] : "<null>");
   }
-
-  const char* text = "The Quick Fox";
-  EXPECT_EQ(plat::findNoCase(text, "quick"), text + 4);
-  EXPECT_EQ(plat::findNoCase(text, "FOX"), text + 10);
-  EXPECT_EQ(plat::findNoCase(text, nullptr), text);
-  EXPECT_EQ(plat::findNoCase(text, "foxes"), nullptr);
-  EXPECT_EQ(plat::findNoCase(nullptr, "a"), nullptr);
-}
-
-TEST(StringUtils, CharactersAndInPlaceTransforms) {
-  const char* text = "ab,cd";
-  EXPECT_TRUE(plat::containsChar(text, nullptr, ','));
-  EXPECT_FALSE(plat::containsChar(text, text + 2, ','));
-  EXPECT_FALSE(plat::containsChar(nullptr, nullptr, ','));
-  // The scan stops at the NUL even when `end` lies beyond it.
-  const char embedded[] = "ab\0,";
+  EXPECT_STREQ(plat::findNoCase("The Quick Fox", "qUICK"), "Quick Fox");
+  const char embedded[] = "ab\0,"; // the scan stops at the NUL even when `end` lies beyond it
   EXPECT_FALSE(plat::containsChar(embedded, embedded + 4, ','));
 
-  EXPECT_FALSE(plat::hasNonSpace(nullptr));
-  EXPECT_FALSE(plat::hasNonSpace(" \t\r\n"));
-  // Vertical tab and form feed are not whitespace here.
-  EXPECT_TRUE(plat::hasNonSpace(" \v"));
-  EXPECT_TRUE(plat::hasNonSpace("\f "));
-
-  char ascii[] = "MiXeD 1\xC3\x89z";
-  plat::lowerAscii(ascii);
-  EXPECT_STREQ(ascii, "mixed 1\xC3\x89z");
-  plat::upperAscii(ascii);
-  EXPECT_STREQ(ascii, "MIXED 1\xC3\x89Z");
-  char locale[] = "AbC";
-  plat::lowerLocale(locale);
-  EXPECT_STREQ(locale, "abc");
-  plat::upperLocale(locale);
-  EXPECT_STREQ(locale, "ABC");
-
-  char removed[] = "a-b_c-d";
-  plat::removeChars(removed, "-_");
-  EXPECT_STREQ(removed, "abcd");
-  char padded[] = " \t\v x \f\r\n ";
+  char padded[] = " \t\v-x_ \f\r\n ";
   plat::trimLeft(padded);
-  EXPECT_STREQ(padded, "\v x \f\r\n ");
   plat::trimRight(padded);
-  EXPECT_STREQ(padded, "\v x \f");
-}
-
-TEST(StringUtils, InsertEveryAndHash) {
+  plat::removeChars(padded, "-_");
+  EXPECT_STREQ(padded, "\vx \f"); // vertical tab and form feed are not whitespace here
+  char ascii[] = "MiXeD\xC3\x89";
+  plat::lowerAscii(ascii);
+  EXPECT_STREQ(ascii, "mixed\xC3\x89");
   EXPECT_STREQ(plat::insertEvery("abcdefg", '-', 3).get(), "abc-def-g");
-  EXPECT_STREQ(plat::insertEvery("abc", '-', 0).get(), "abc");
-  EXPECT_TRUE(plat::insertEvery(nullptr, '-', 2).isNull());
-
-  EXPECT_EQ(plat::hash64(nullptr), 0xcbf29ce484222325ULL);
-  EXPECT_EQ(plat::hash64("a"), 0xaf63dc4c8601ec8cULL);
-  EXPECT_EQ(plat::hash64("foobar"), 0x85944171f73967e8ULL);
-  // Bytes above 0x7F must enter unsigned.
-  EXPECT_EQ(plat::hash64("\xC3\xA9"), 0x0ac21707b7181e01ULL);
+  EXPECT_EQ(plat::hash64("\xC3\xA9"), 0x0ac21707b7181e01ULL); // bytes enter unsigned
 }
 
 using Tokens = std::vector<std::string>;
 
-// Runs a tokeniser to the end and collects the tokens.
+// Runs a tokeniser to the end; after the last token the cursor is null and stays there.
 template <class Next>
 Tokens tokens(const char* text, Next next) {
   std::vector<char> buffer(text, text + std::strlen(text) + 1);
@@ -144,61 +72,92 @@ Tokens tokens(const char* text, Next next) {
   for (char* token; result.size() < 20 && (token = next(cursor)) != nullptr;)
     result.emplace_back(token);
   EXPECT_EQ(cursor, nullptr);
-  EXPECT_EQ(next(cursor), nullptr); // a call after the end stays at the end
+  EXPECT_EQ(next(cursor), nullptr);
   return result;
 }
 
 TEST(StringUtils, Tokenisers) {
-  auto plain = [](char*& cursor) { return plat::nextToken(cursor, ','); };
-  auto skipping = [](char*& cursor) { return plat::nextToken(cursor, ',', true); };
-  EXPECT_EQ(tokens(",a,,b,", plain), (Tokens{"", "a", "", "b", ""}));
-  EXPECT_EQ(tokens("", plain), (Tokens{""}));
-  EXPECT_EQ(tokens(",,a,,b,,", skipping), (Tokens{"a", "b"}));
-  EXPECT_EQ(tokens(",,,", skipping), Tokens{});
-  char trailing[] = "a,,";
-  char* rest = trailing;
-  EXPECT_STREQ(plat::nextToken(rest, ',', true), "a");
-  EXPECT_EQ(rest, nullptr); // only delimiters were left
-
-  auto anySkipping = [](char*& at) { return plat::nextTokenAny(at, " \t", nullptr, true); };
-  EXPECT_EQ(tokens("\t a \t b  ", anySkipping), (Tokens{"a", "b"}));
-  auto string = [](char*& cursor) { return plat::nextTokenStr(cursor, "::"); };
-  auto stringSkipping = [](char*& cursor) { return plat::nextTokenStr(cursor, "::", true); };
-  EXPECT_EQ(tokens("a::b:c::", string), (Tokens{"a", "b:c", ""}));
-  EXPECT_EQ(tokens("::::a::::b::", stringSkipping), (Tokens{"a", "b"}));
-
-  // The cursor stands behind the delimiter; the delimiter found is reported.
-  char text[] = "a=b;;c";
+  EXPECT_EQ(tokens(",a,,b,", [](char*& at) { return plat::nextToken(at, ','); }),
+            (Tokens{"", "a", "", "b", ""}));
+  EXPECT_EQ(tokens(",,a,,b,,", [](char*& at) { return plat::nextToken(at, ',', true); }),
+            (Tokens{"a", "b"}));
+  char text[] = "a=b";
   char* cursor = text;
   char found = 'x';
-  EXPECT_STREQ(plat::nextTokenAny(cursor, "=;", &found, false), "a");
-  EXPECT_EQ(cursor, text + 2);
+  EXPECT_STREQ(plat::nextTokenAny(cursor, "=;", &found), "a");
   EXPECT_EQ(found, '=');
-  EXPECT_STREQ(plat::nextTokenAny(cursor, "=;", &found, false), "b");
-  EXPECT_EQ(found, ';');
-  EXPECT_STREQ(plat::nextTokenAny(cursor, "=;", &found, false), "");
-  EXPECT_STREQ(plat::nextTokenAny(cursor, "=;", &found, false), "c");
+  EXPECT_STREQ(plat::nextTokenAny(cursor, "=;", &found), "b");
   EXPECT_EQ(found, '\0');
-  EXPECT_EQ(cursor, nullptr);
+
+  EXPECT_EQ(plat::splitToSet("b,,b", ','), (std::set<String>{String(""), String("b")}));
 }
 
-TEST(StringUtils, SplitLastAndSplitToSet) {
-  char path[] = "dir/sub/file";
-  char* cursor = path;
-  EXPECT_STREQ(plat::splitLast(cursor, '/'), "file");
-  EXPECT_STREQ(cursor, "dir/sub");
-  EXPECT_STREQ(plat::splitLast(cursor, '/'), "sub");
-  EXPECT_STREQ(cursor, "dir");
-  EXPECT_STREQ(plat::splitLast(cursor, '/'), "dir");
-  EXPECT_EQ(cursor, nullptr);
-  EXPECT_EQ(plat::splitLast(cursor, '/'), nullptr);
+TEST(DString, GrowthAndAppending) {
+  // Powers of two from eight; a smaller request never shrinks, and the contents stay.
+  const int steps[][2] = {{1, 8}, {8, 8}, {9, 16}, {5, 16}, {17, 32}, {129, 256}};
+  DString text("abc");
+  for (const auto& step : steps) {
+    text.ensure(step[0]);
+    EXPECT_EQ(text.capacity(), step[1]) << step[0];
+  }
+  text.appendChar(0x20AC, 2);
+  EXPECT_STREQ(text.get(), "abc\xE2\x82\xAC\xE2\x82\xAC");
+  EXPECT_THROW(text.appendChar(0x110000), plat::Exception);
 
-  std::set<String> expected;
-  for (const char* piece : {"a", "b", "", "c"})
-    expected.insert(String(piece));
-  EXPECT_EQ(plat::splitToSet("b,a,b,,c", ','), expected);
-  EXPECT_EQ(plat::splitToSet("", ','), std::set<String>{String("")});
-  EXPECT_TRUE(plat::splitToSet(nullptr, ',').empty());
+  // Every output length, so that each capacity boundary is crossed once.
+  std::string big(70, 'q');
+  for (std::size_t length = 0; length < big.size(); ++length) {
+    DString formatted("n=");
+    formatted.appendFormat("%s|%d", big.substr(0, length).c_str(), 7);
+    EXPECT_EQ(formatted.get(), "n=" + big.substr(0, length) + "|7");
+  }
+}
+
+TEST(DString, ReplaceAllAndRange) {
+  // Left to right without overlap; a null `to` deletes.
+  const char* const cases[][4] = {
+      {"a.b.c", ".", "::", "a::b::c"}, {"aaa", "aa", "b", "ba"}, {"x-y-z", "-", nullptr, "xyz"}};
+  for (const auto& c : cases) {
+    EXPECT_STREQ(plat::replaceAll(c[0], c[1], c[2]).get(), c[3]) << c[0];
+    DString inPlace(c[0]);
+    inPlace.replaceAll(c[1], c[2]);
+    EXPECT_STREQ(inPlace.get(), c[3]) << c[0];
+  }
+
+  struct Range { // out of range leaves the text alone
+    int begin, end, maxLen;
+    const char* expected;
+  };
+  const Range ranges[] = {{1, 3, -1, "0XYZ3456"}, {2, 2, -1, "01XYZ23456"}, {0, 1, 2, "XY123456"},
+                          {-1, 2, -1, "0123456"}, {3, 8, -1, "0123456"},    {4, 3, -1, "0123456"}};
+  for (const Range& r : ranges) {
+    DString text("0123456");
+    text.replaceRange(r.begin, r.end, "XYZ", r.maxLen);
+    EXPECT_STREQ(text.get(), r.expected) << r.begin << ".." << r.end;
+  }
+}
+
+TEST(DStringDeathTest, ReplaceAllOfEmptyIsFatal) {
+  EXPECT_EXIT(plat::replaceAll("abc", "", "x"), ::testing::ExitedWithCode(1),
+              "Assertion 'findLen' failed");
+}
+
+// Wraps both ways, which must agree.
+std::string wrap(const char* text, int width, int hangingIndent) {
+  DString wrapped(text);
+  wrapped.wordWrap(width, hangingIndent);
+  EXPECT_STREQ(plat::wrapText(text, width, hangingIndent).get(), wrapped.get());
+  return wrapped.get();
+}
+
+TEST(DString, WordWrap) {
+  EXPECT_EQ(wrap("the quick brown fox", 9, 2), "the quick\n  brown\n  fox");
+  // A word too wide for a fresh line stays whole.
+  EXPECT_EQ(wrap("a\nbbbbbbbbbbbbbbbbbbbb c", 10, 2), "a\nbbbbbbbbbbbbbbbbbbbb\n  c");
+  EXPECT_EQ(wrap("  indented   text  ", 20, 0), "  indented   text");
+  // Width counts code points: five two-byte letters take five columns.
+  const char* letters = "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9 x";
+  EXPECT_EQ(wrap(letters, 7, 0), letters);
 }
 
 } // namespace
