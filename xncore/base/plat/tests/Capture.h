@@ -7,42 +7,33 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace plattest {
-
-struct LogRecord {
-  int level;
-  std::string source;
-  std::string text;
-};
 
 /// Collects every log record while it exists.
 class LogCapture {
 public:
   LogCapture() : previous_(plat::setLogSink(&LogCapture::record)) { records().clear(); }
   ~LogCapture() { plat::setLogSink(previous_); }
-  LogCapture(const LogCapture&) = delete;
-  LogCapture& operator=(const LogCapture&) = delete;
 
-  /// The records of `source`, or all of them when `source` is null.
-  std::vector<LogRecord> from(const char* source = nullptr) const {
-    std::vector<LogRecord> selected;
-    for (const LogRecord& entry : records()) {
-      if (!source || entry.source == source)
-        selected.push_back(entry);
-    }
+  /// The records of `source`, each as "<level> <text>".
+  std::vector<std::string> lines(const char* source) const {
+    std::vector<std::string> selected;
+    for (const auto& [from, line] : records())
+      if (from == source)
+        selected.push_back(line);
     return selected;
   }
-  void clear() { records().clear(); }
 
 private:
-  static std::vector<LogRecord>& records() {
-    static std::vector<LogRecord> all;
+  static std::vector<std::pair<std::string, std::string>>& records() {
+    static std::vector<std::pair<std::string, std::string>> all;
     return all;
   }
   static void record(int level, const char* source, const char* text) {
-    records().push_back({level, source, text});
+    records().emplace_back(source, std::to_string(level) + " " + text);
   }
 
   plat::LogSink previous_;

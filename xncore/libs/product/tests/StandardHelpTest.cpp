@@ -1,4 +1,8 @@
+// The help that programs print: the version line, then the group's help or
+// its XML document, and the end of the process.
 #include "product/StandardHelp.h"
+
+#include "../../../base/plat/tests/Capture.h"
 
 #include "plat/BoolParameter.h"
 #include "plat/Configuration.h"
@@ -9,26 +13,18 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <string>
 
 namespace {
 
-std::string helpText(int mode, const plat::Configuration& group) {
-  std::FILE* stream = std::tmpfile();
-  product::writeStandardHelp(mode, group, stream);
-  std::string text;
-  std::rewind(stream);
-  char buffer[4096];
-  for (std::size_t got; (got = std::fread(buffer, 1, sizeof buffer, stream)) > 0;)
-    text.append(buffer, got);
-  std::fclose(stream);
-  return text;
-}
-
 class StandardHelp : public testing::Test {
 protected:
   StandardHelp() { product::setProductVersion("7.19.0 (r13)", "7.19.0.13"); }
+
+  std::string helpText(int mode) {
+    return plattest::captureStream(
+        [&](std::FILE* out) { product::writeStandardHelp(mode, group, out); });
+  }
 
   plat::Configuration group{"Help", nullptr};
   plat::BoolParameter plain{"Plain", "Shown always.", false, false, &group};
@@ -36,42 +32,29 @@ protected:
 };
 
 TEST_F(StandardHelp, VersionLineNamesProductVersionAndBuild) {
-  std::string line = product::versionLine().get();
-  EXPECT_THAT(line,
+  EXPECT_THAT(std::string(product::versionLine().get()),
               testing::MatchesRegex(
                   "oxnpermissionscreator 7\\.19\\.0 \\(r13\\) x64 \\([A-Z][a-z]{2} [0-9]{1,2} "
                   "[0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}\\)"));
-  EXPECT_EQ(line.find("  "), std::string::npos);
-
   product::setProductVersion(nullptr, nullptr);
   EXPECT_THAT(std::string(product::versionLine().get()),
               testing::StartsWith("oxnpermissionscreator 0.1 x64 ("));
 }
 
-TEST_F(StandardHelp, TextModesStartWithTheVersionAndAnEmptyLine) {
+TEST_F(StandardHelp, EachModeWritesItsTextAndEndsTheProcess) {
   std::string head = std::string(product::versionLine().get()) + "\n\nParameters can be turned on";
-  std::string ordinary = helpText(plat::Configuration::helpPlain, group);
-  std::string all = helpText(plat::Configuration::helpAll, group);
+  std::string ordinary = helpText(plat::Configuration::helpPlain);
+  std::string all = helpText(plat::Configuration::helpAll);
   EXPECT_EQ(ordinary.rfind(head, 0), 0u);
   EXPECT_EQ(all.rfind(head, 0), 0u);
-  EXPECT_NE(ordinary.find("  Plain          - Shown always. (default=0)\n"), std::string::npos);
   EXPECT_EQ(ordinary.find("Expert"), std::string::npos);
   EXPECT_NE(all.find("  Expert         - Shown with all. (default=2)\n"), std::string::npos);
-  EXPECT_NE(all.find("\nLog names:\n"), std::string::npos);
-}
 
-TEST_F(StandardHelp, XmlModeWritesTheGroupAsADocument) {
   plain.setFromString("1", 10);
-  std::string xml = helpText(plat::Configuration::helpXml, group);
-  EXPECT_EQ(xml, std::string(plat::writeXmlConfig(group, false, false, nullptr).get()));
-  EXPECT_NE(xml.find("<value data=\"1\" priority=\"10\"/>"), std::string::npos);
-}
-
-TEST_F(StandardHelp, EndsTheProcessWithSuccess) {
-  EXPECT_EXIT(product::standardHelp(plat::Configuration::helpPlain, group),
-              testing::ExitedWithCode(0), "");
-  EXPECT_EXIT(product::standardHelp(plat::Configuration::helpXml, group),
-              testing::ExitedWithCode(0), "");
+  EXPECT_EQ(helpText(plat::Configuration::helpXml),
+            std::string(plat::writeXmlConfig(group, false, false, nullptr).get()));
+  for (int mode : {plat::Configuration::helpPlain, plat::Configuration::helpXml})
+    EXPECT_EXIT(product::standardHelp(mode, group), testing::ExitedWithCode(0), "") << mode;
 }
 
 } // namespace
