@@ -1,12 +1,15 @@
-// The text operations on paths, in both styles, table by table. The Windows
-// forms are checked on every platform, since they are text alone.
+// The text operations on paths in both styles, table by table: drive, UNC,
+// extended and device forms are text alone, so they are checked on every
+// platform. Then the expansion of variables in paths.
 
 #include "plat/Path.h"
 
+#include "plat/Exception.h"
 #include "plat/FileSystem.h"
+#include "plat/PathExpand.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
+#include <stdlib.h>
 
 #include <string>
 
@@ -16,259 +19,118 @@ namespace {
 constexpr PathStyle win = PathStyle::Windows;
 constexpr PathStyle posix = PathStyle::Posix;
 
-const char* describe(PathStyle style) {
-  return style == win ? "windows" : "posix";
-}
-
 std::string textOf(const String& text) {
   return text.isNull() ? "<null>" : text.get();
 }
 
-// A case of a function from one path text to another.
-struct TextCase {
-  PathStyle style;
-  const char* path;
-  const char* expected;
-};
-
-template <class Function>
-void checkTextCases(std::initializer_list<TextCase> cases, Function function) {
-  for (const TextCase& c : cases)
-    EXPECT_EQ(textOf(function(c.path, c.style)), c.expected ? c.expected : "<null>")
-        << describe(c.style) << " \"" << (c.path ? c.path : "<null>") << "\"";
+std::string textOf(const char* text) {
+  return text ? text : "<null>";
 }
 
-TEST(PathRoot, FindsTheEndOfEachForm) {
-  struct Case {
+std::string describe(PathStyle style, const char* path) {
+  return (style == win ? "windows " : "posix ") + textOf(path);
+}
+
+TEST(PathRoot, FindsTheRootOfEachForm) {
+  struct {
     PathStyle style;
     const char* path;
     int root;
-  } cases[] = {
-      {win, R"(C:\dir)", 3},
-      {win, "C:/dir", 3},
-      {win, "C:dir", 2},
-      {win, R"(\dir)", 1},
-      {win, "/dir", 1},
-      {win, R"(\\server\share\dir)", 14},
-      {win, R"(\\server\share)", 14},
-      {win, R"(\\server)", 8},
-      {win, R"(\\?\C:\dir)", 6},
-      {win, R"(\\?\UNC\server\share\dir)", 20},
-      {win, R"(\\.\pipe\name)", 8},
-      {win, R"(\\.\COM1)", 8},
-      {win, "dir\\file", 0},
-      {win, "", 0},
-      {win, nullptr, 0},
-      {posix, "/usr", 1},
-      {posix, "//usr", 2},
-      {posix, "usr/lib", 0},
-      {posix, R"(C:\dir)", 0},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(pathRootLength(c.path, c.style), c.root)
-        << describe(c.style) << " " << (c.path ? c.path : "<null>");
-}
-
-TEST(PathNormalise, ResolvesDotsAndSeparators) {
-  checkTextCases(
-      {
-          {win, R"(C:\a\b\..\c)", R"(C:\a\c)"},
-          {win, "C:/a//b/./c/", R"(C:\a\b\c)"},
-          {win, R"(C:\..\..)", R"(C:\)"},
-          {win, R"(C:\)", R"(C:\)"},
-          {win, "c:", "c:"},
-          {win, R"(C:a\..\..)", "C:.."},
-          {win, R"(\a\.\b)", R"(\a\b)"},
-          {win, "/a/../../b", R"(\b)"},
-          {win, R"(\\server\share\a\..\b)", R"(\\server\share\b)"},
-          {win, "//server/share/x/", R"(\\server\share\x)"},
-          {win, R"(\\server\share\..)", R"(\\server\share)"},
-          {win, R"(a\b\..\..\..\c)", R"(..\c)"},
-          {win, R"(..\..\a)", R"(..\..\a)"},
-          {win, R"(a\..)", "."},
-          {win, "./", "."},
-          {win, "a//b", R"(a\b)"},
-          {win, "", ""},
-          {win, nullptr, nullptr},
-          {posix, "/a/b/../c", "/a/c"},
-          {posix, "//a///b/", "/a/b"},
-          {posix, "/..", "/"},
-          {posix, "a/../../b", "../b"},
-          {posix, R"(a\b/c)", R"(a\b/c)"},
-          {posix, "./a/", "a"},
-          {posix, ".", "."},
-      },
-      [](const char* path, PathStyle style) { return pathNormalise(path, nullptr, style); });
-}
-
-TEST(PathNormalise, LeavesExtendedAndDeviceFormsAlone) {
-  checkTextCases(
-      {
-          {win, R"(\\?\C:\a\..\b\)", R"(\\?\C:\a\..\b\)"},
-          {win, R"(\\?\UNC\server\share\x\\)", R"(\\?\UNC\server\share\x\\)"},
-          {win, R"(\\.\COM1\)", R"(\\.\COM1\)"},
-          {win, R"(\\.\pipe\a/./b)", R"(\\.\pipe\a/./b)"},
-      },
-      [](const char* path, PathStyle style) { return pathNormalise(path, nullptr, style); });
-}
-
-TEST(PathNormalise, ReportsTheRootOfItsResult) {
-  struct Case {
-    PathStyle style;
-    const char* path;
-    int root;
-  } cases[] = {
-      {win, "C:/x/y", 3},      {win, "c:x", 2}, {win, "//srv/share//x", 11},
-      {win, R"(\\?\C:\x)", 6}, {win, "x/y", 0}, {posix, "///x", 1},
-      {posix, "x", 0},
-  };
-  for (const Case& c : cases) {
-    int root = -1;
-    pathNormalise(c.path, &root, c.style);
-    EXPECT_EQ(root, c.root) << describe(c.style) << " " << c.path;
+    bool absolute;
+  } cases[] = {{win, R"(C:\dir)", 3, true},     {win, "C:dir", 2, false},
+               {win, R"(\dir)", 1, false},      {win, R"(\\server\share\dir)", 14, true},
+               {win, R"(\\?\C:\dir)", 6, true}, {win, R"(\\?\UNC\server\share\dir)", 20, true},
+               {win, R"(\\.\COM1)", 8, true},   {win, R"(dir\file)", 0, false},
+               {win, nullptr, 0, false},        {posix, "/usr", 1, true},
+               {posix, "//usr", 2, true},       {posix, R"(C:\dir)", 0, false}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(pathRootLength(c.path, c.style), c.root) << describe(c.style, c.path);
+    EXPECT_EQ(pathIsAbsolute(c.path, c.style), c.absolute) << describe(c.style, c.path);
   }
 }
 
-TEST(PathIsAbsolute, AcceptsOnlyFullyQualifiedForms) {
-  struct Case {
+TEST(PathElements, NormalisesAndSplits) {
+  // The extended and device forms are taken literally.
+  struct {
     PathStyle style;
     const char* path;
-    bool absolute;
+    const char* normalised;
+    const char* dir;
+    const char* base;
   } cases[] = {
-      {win, R"(C:\x)", true},
-      {win, "C:/x", true},
-      {win, "C:x", false},
-      {win, R"(\x)", false},
-      {win, R"(\\srv\share)", true},
-      {win, R"(\\?\C:\x)", true},
-      {win, R"(\\.\COM1)", true},
-      {win, "x", false},
-      {win, "", false},
-      {win, nullptr, false},
-      {posix, "/x", true},
-      {posix, "x", false},
-      {posix, R"(C:\x)", false},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(pathIsAbsolute(c.path, c.style), c.absolute)
-        << describe(c.style) << " " << (c.path ? c.path : "<null>");
-}
-
-TEST(PathBaseName, TakesTheLastElement) {
-  struct Case {
+      {win, R"(C:\a\b\..\c)", R"(C:\a\c)", R"(C:\a)", "c"},
+      {win, "C:/a//b/./c/", R"(C:\a\b\c)", R"(C:\a\b)", "c"},
+      {win, R"(C:\..\..)", R"(C:\)", R"(C:\)", "."},
+      {win, "c:", "c:", "c:", "c:"},
+      {win, R"(C:a\..\..)", "C:..", R"(C:..\..)", "."},
+      {win, "/a/../../b", R"(\b)", R"(\)", "b"},
+      {win, R"(\\server\share\a\..\b)", R"(\\server\share\b)", R"(\\server\share)", "b"},
+      {win, R"(a\b\..\..\..\c)", R"(..\c)", "..", "c"},
+      {win, "..", "..", R"(..\..)", "."},
+      {win, "", "", ".", ""},
+      {win, nullptr, nullptr, nullptr, nullptr},
+      {win, R"(\\?\C:\a\..\b\)", R"(\\?\C:\a\..\b\)", R"(\\?\C:\a\..)", "b"},
+      {win, R"(\\?\C:\file)", R"(\\?\C:\file)", R"(\\?\C:)", "file"},
+      {win, R"(\\?\UNC\srv\share\x\\)", R"(\\?\UNC\srv\share\x\\)", R"(\\?\UNC\srv\share)", "x"},
+      {win, R"(\\.\COM1\)", R"(\\.\COM1\)", R"(\\.\COM1)", R"(\\.\COM1)"},
+      {win, R"(\\.\pipe\a/./b)", R"(\\.\pipe\a/./b)", R"(\\.\pipe\a/.)", "b"},
+      {posix, "//a///b/", "/a/b", "/a", "b"},
+      {posix, "/..", "/", "/", "."},
+      {posix, "/", "/", "/", "/"},
+      {posix, "a/../../b", "../b", "..", "b"},
+      {posix, R"(a\b/c)", R"(a\b/c)", R"(a\b)", "c"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(describe(c.style, c.path));
+    int root = -1;
+    EXPECT_EQ(textOf(pathNormalise(c.path, &root, c.style)), textOf(c.normalised));
+    EXPECT_EQ(root, pathRootLength(c.normalised, c.style));
+    EXPECT_EQ(textOf(pathDirName(c.path, c.style)), textOf(c.dir));
+    EXPECT_EQ(textOf(pathBaseName(c.path, nullptr, c.style)), textOf(c.base));
+  }
+  struct {
     PathStyle style;
     const char* path;
     const char* extension;
-    const char* expected;
-  } cases[] = {
-      {win, R"(C:\dir\file.exe)", ".exe", "file"},
-      {win, R"(C:\dir\file.EXE)", ".exe", "file"},
-      {win, R"(C:\dir\file.exe)", ".txt", "file.exe"},
-      {win, ".exe", ".exe", ".exe"},
-      {win, "file.tar.gz", ".gz", "file.tar"},
-      {win, R"(C:\)", nullptr, R"(C:\)"},
-      {win, R"(C:\dir\\)", nullptr, "dir"},
-      {win, "C:/a/b", nullptr, "b"},
-      {win, "C:", nullptr, "C:"},
-      {win, "C:x", nullptr, "x"},
-      {win, "file", nullptr, "file"},
-      {win, ".", nullptr, "."},
-      {win, "..", nullptr, "."},
-      {win, R"(a\..)", nullptr, "."},
-      {win, R"(\\srv\share)", nullptr, R"(\\srv\share)"},
-      {win, R"(\\srv\share\x.txt)", ".txt", "x"},
-      {win, nullptr, nullptr, nullptr},
-      {posix, "/usr/lib/", nullptr, "lib"},
-      {posix, "/", nullptr, "/"},
-      {posix, R"(a\b)", nullptr, R"(a\b)"},
-      {posix, "/tmp/log.txt", ".TXT", "log"},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(textOf(pathBaseName(c.path, c.extension, c.style)),
-              c.expected ? c.expected : "<null>")
-        << describe(c.style) << " " << (c.path ? c.path : "<null>");
-}
-
-TEST(PathDirName, TakesAllButTheLastElement) {
-  checkTextCases(
-      {
-          {win, "file", "."},
-          {win, R"(C:\file)", R"(C:\)"},
-          {win, R"(C:\dir\file)", R"(C:\dir)"},
-          {win, "C:/dir/sub/", R"(C:\dir)"},
-          {win, R"(C:\)", R"(C:\)"},
-          {win, "C:file", "C:"},
-          {win, R"(\file)", R"(\)"},
-          {win, "..", R"(..\..)"},
-          {win, ".", ".."},
-          {win, R"(..\..)", R"(..\..\..)"},
-          {win, R"(a\..\b)", "."},
-          {win, R"(C:\a\b\..\c)", R"(C:\a)"},
-          {win, R"(\\srv\share\file)", R"(\\srv\share)"},
-          {win, R"(\\srv\share)", R"(\\srv\share)"},
-          {win, R"(\\?\C:\dir\file)", R"(\\?\C:\dir)"},
-          {win, R"(\\?\C:\file)", R"(\\?\C:)"},
-          {win, "", "."},
-          {win, nullptr, nullptr},
-          {posix, "/a/b", "/a"},
-          {posix, "/a", "/"},
-          {posix, "/", "/"},
-          {posix, "a", "."},
-          {posix, "..", "../.."},
-      },
-      [](const char* path, PathStyle style) { return pathDirName(path, style); });
+    const char* base;
+  } extensions[] = {
+      {win, R"(C:\dir\file.exe)", ".exe", "file"},     {win, R"(C:\dir\file.EXE)", ".exe", "file"},
+      {win, R"(C:\dir\file.exe)", ".txt", "file.exe"}, {win, ".exe", ".exe", ".exe"},
+      {win, "file.tar.gz", ".gz", "file.tar"},         {posix, "/tmp/log.txt", ".TXT", "log"}};
+  for (const auto& c : extensions)
+    EXPECT_EQ(textOf(pathBaseName(c.path, c.extension, c.style)), c.base)
+        << describe(c.style, c.path);
 }
 
 TEST(PathJoin, PutsOneSeparatorBetween) {
-  struct Case {
+  struct {
     PathStyle style;
     const char* dir;
     const char* name;
     const char* expected;
-  } cases[] = {
-      {win, R"(C:\dir)", "f", R"(C:\dir\f)"},
-      {win, R"(C:\dir\)", "f", R"(C:\dir\f)"},
-      {win, "C:/dir/", "f", "C:/dir/f"},
-      {win, "C:", "f", R"(C:\f)"},
-      {win, "", "f", "f"},
-      {win, nullptr, "f", "f"},
-      {posix, "/a", "b", "/a/b"},
-      {posix, "/a/", "b", "/a/b"},
-      {posix, R"(a\)", "b", R"(a\/b)"},
-      {posix, "/a", "", "/a/"},
-  };
-  for (const Case& c : cases)
+  } cases[] = {{win, R"(C:\dir)", "f", R"(C:\dir\f)"},
+               {win, R"(C:\dir\)", "f", R"(C:\dir\f)"},
+               {win, "C:/dir/", "f", "C:/dir/f"},
+               {win, "", "f", "f"},
+               {win, nullptr, "f", "f"},
+               {posix, "/a", "b", "/a/b"},
+               {posix, "/a/", "b", "/a/b"},
+               {posix, R"(a\)", "b", R"(a\/b)"}};
+  for (const auto& c : cases)
     EXPECT_EQ(textOf(pathJoin(c.dir, c.name, c.style)), c.expected)
-        << describe(c.style) << " " << (c.dir ? c.dir : "<null>") << " + " << c.name;
+        << describe(c.style, c.dir) << " + " << c.name;
 }
 
 TEST(PathSafeName, ReplacesWhatNoFileNameMayHold) {
-  struct Case {
+  struct {
     const char* name;
-    char replacement;
     const char* expected;
-  } cases[] = {
-      {"a:b/c?", '-', "a-b-c-"},
-      {R"(<|>"*\)", '-', "------"},
-      {"a\tb\x7f"
-       "c\x01",
-       '_', "a_b_c_"},
-      {"CON", '-', ""},
-      {"con.txt", '-', ".txt"},
-      {"Com1.log", '-', ".log"},
-      {"lpt9", '-', ""},
-      {"AUX.", '-', "-"},
-      {"COM10", '-', "COM10"},
-      {"CONSOLE", '-', "CONSOLE"},
-      {"xCON", '-', "xCON"},
-      {"name.", '-', "name-"},
-      {"name ", '_', "name_"},
-      {"report.txt", '-', "report.txt"},
-      {"Grüße.txt", '-', "Grüße.txt"},
-      {"", '-', ""},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(textOf(pathMakeSafeName(c.name, c.replacement)), c.expected) << c.name;
+  } cases[] = {{"a:b/c?", "a-b-c-"}, {R"(<|>"*\)", "------"},   {"a\tb\x7f_\x01", "a-b-_-"},
+               {"CON", ""},          {"con.txt", ".txt"},       {"lpt9", ""},
+               {"AUX.", "-"},        {"COM10", "COM10"},        {"xCON", "xCON"},
+               {"name.", "name-"},   {"Grüße.txt", "Grüße.txt"}};
+  for (const auto& c : cases)
+    EXPECT_EQ(textOf(pathMakeSafeName(c.name, '-')), c.expected) << c.name;
+  EXPECT_EQ(textOf(pathMakeSafeName("a?b", '_')), "a_b");
   EXPECT_TRUE(pathMakeSafeName(nullptr, '-').isNull());
 }
 
@@ -279,6 +141,49 @@ TEST(PathMakeAbsolute, PutsRelativePathsBehindTheCurrentDirectory) {
   EXPECT_EQ(textOf(pathMakeAbsolute("/x/../y")), "/y");
   EXPECT_EQ(textOf(pathMakeAbsolute("..")), textOf(pathDirName(current.get())));
   EXPECT_EQ(textOf(pathMakeAbsolute(".")), base);
+}
+
+TEST(PathExpand, ReplacesNamesFromTheMap) {
+  PathVariables variables{{String("X"), String("ex")}, {String("DIR_1"), String("/var/log")}};
+  struct {
+    const char* text;
+    const char* expected;
+  } cases[] = {{"a$$b", "a$b"},
+               {"${X}y", "exy"},
+               {"$Xy", ""},
+               {"$DIR_1/app.log", "/var/log/app.log"},
+               {"${DIR_1}${X}", "/var/logex"},
+               {"${}", "$"},
+               {"${DIR_1", "/var/log"},
+               {"a$", "a$"},
+               {"$-x", "$-x"},
+               {"$UNSET/x", "/x"},
+               {nullptr, nullptr}};
+  for (const auto& c : cases)
+    EXPECT_EQ(textOf(pathExpand(c.text, &variables)), textOf(c.expected)) << textOf(c.text);
+
+  // Strict: an unknown name raises.
+  EXPECT_EQ(textOf(pathExpand("${X}", &variables, true)), "ex");
+  for (const char* text : {"${NOPE}y", "$NOPE", "a${NOPE"}) {
+    try {
+      pathExpand(text, &variables, true);
+      ADD_FAILURE() << text;
+    } catch (const Exception& e) {
+      EXPECT_STREQ(e.what(), "unknown environment variable: NOPE") << text;
+    }
+  }
+}
+
+TEST(PathExpand, UsesTheEnvironmentOnlyWithoutAMap) {
+  ASSERT_EQ(setenv("XN_PATH_EXPAND_TEST", "/from/env", 1), 0);
+  unsetenv("XN_PATH_EXPAND_UNSET");
+  EXPECT_EQ(textOf(pathExpand("$XN_PATH_EXPAND_TEST/x")), "/from/env/x");
+  EXPECT_EQ(textOf(pathExpand("${XN_PATH_EXPAND_TEST}", nullptr, false, false)), "");
+  EXPECT_THROW(pathExpand("$XN_PATH_EXPAND_TEST", nullptr, true, false), Exception);
+  EXPECT_THROW(pathExpand("$XN_PATH_EXPAND_UNSET", nullptr, true, true), Exception);
+  PathVariables empty;
+  EXPECT_EQ(textOf(pathExpand("$XN_PATH_EXPAND_TEST", &empty)), "");
+  unsetenv("XN_PATH_EXPAND_TEST");
 }
 
 } // namespace
