@@ -1,14 +1,14 @@
 #include "xnauth/FeaturePermission.h"
 
+#include "plat/EnglishText.h"
 #include "xnauth/PermissionDefn.h"
-#include "xnauth/Texts.h"
 
 namespace xnauth {
 
 FeaturePermission::FeaturePermission(char code, const char* descriptionKey, const char* groups,
                                      const char* parameters)
     : code_(code) {
-  definePermission(code, lookupText(descriptionKey), groups, parameters);
+  definePermission(code, plat::englishText(descriptionKey), groups, parameters);
 }
 
 FeaturePermission::~FeaturePermission() {

@@ -1,7 +1,7 @@
 #include "xnauth/PermissionDefn.h"
 
 #include "plat/Assertion.h"
-#include "xnauth/Texts.h"
+#include "plat/EnglishText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -78,7 +78,7 @@ void defineBuiltIns(Alphabet& alphabet) {
       {'q', "f", nullptr, "xnauth_permissions_noquery_desc"},
   };
   for (const BuiltIn& builtIn : builtIns)
-    addDefinition(alphabet, builtIn.code, lookupText(builtIn.key), builtIn.groups,
+    addDefinition(alphabet, builtIn.code, plat::englishText(builtIn.key), builtIn.groups,
                   builtIn.parameters);
 }
 

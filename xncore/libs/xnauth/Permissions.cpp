@@ -2,7 +2,7 @@
 
 #include "plat/Assertion.h"
 #include "plat/DString.h"
-#include "xnauth/Texts.h"
+#include "plat/EnglishText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -203,7 +203,7 @@ const char* Permissions::getDescription() const {
   // Parsed on every call, since the groups change as features come and go.
   for (const Preset& preset : presets) {
     if (equalsAllowed(Permissions(preset.text)))
-      return lookupText(preset.key);
+      return plat::englishText(preset.key);
   }
   return nullptr;
 }
@@ -217,7 +217,7 @@ plat::String Permissions::describe(const char* text) {
   }
   if (description)
     return plat::String(description);
-  return plat::strFormat("%s (%s)", lookupText("xnauth_permissions_desc_custom"), text);
+  return plat::strFormat("%s (%s)", plat::englishText("xnauth_permissions_desc_custom"), text);
 }
 
 } // namespace xnauth
