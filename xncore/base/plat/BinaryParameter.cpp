@@ -24,10 +24,7 @@ void BinaryParameter::getBinary(MBuf<unsigned char>& out) const {
 }
 
 std::unique_ptr<ConfigParameter> BinaryParameter::clone(Configuration* group) const {
-  auto copy = std::make_unique<BinaryParameter>(name(), ParamDescription::owned(desc(), locDesc()),
-                                                currentValue(), advanced(), group);
-  copyStateTo(*copy);
-  return copy;
+  return cloneAs<BinaryParameter>(currentValue(), advanced(), group);
 }
 
 } // namespace plat

@@ -46,10 +46,7 @@ bool BoolParameter::setInt(int value, int priority) {
 }
 
 std::unique_ptr<ConfigParameter> BoolParameter::clone(Configuration* group) const {
-  auto copy = std::make_unique<BoolParameter>(name(), ParamDescription::owned(desc(), locDesc()),
-                                              currentValue(), advanced(), group);
-  copyStateTo(*copy);
-  return copy;
+  return cloneAs<BoolParameter>(currentValue(), advanced(), group);
 }
 
 } // namespace plat

@@ -44,10 +44,7 @@ String EnumParameter::valueToString(int value) const {
 }
 
 std::unique_ptr<ConfigParameter> EnumParameter::clone(Configuration* group) const {
-  auto copy = std::make_unique<EnumParameter>(name(), ParamDescription::owned(desc(), locDesc()),
-                                              nullptr, names(), advanced(), group);
-  copyStateTo(*copy);
-  return copy;
+  return cloneAs<EnumParameter>(nullptr, names(), advanced(), group);
 }
 
 } // namespace plat

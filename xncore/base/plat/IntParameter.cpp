@@ -26,10 +26,7 @@ bool IntParameter::setInt(int value, int priority) {
 }
 
 std::unique_ptr<ConfigParameter> IntParameter::clone(Configuration* group) const {
-  auto copy = std::make_unique<IntParameter>(name(), ParamDescription::owned(desc(), locDesc()),
-                                             currentValue(), advanced(), group, min_, max_);
-  copyStateTo(*copy);
-  return copy;
+  return cloneAs<IntParameter>(currentValue(), advanced(), group, min_, max_);
 }
 
 } // namespace plat

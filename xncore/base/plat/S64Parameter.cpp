@@ -66,10 +66,7 @@ bool S64Parameter::setS64(std::int64_t value, int priority) {
 }
 
 std::unique_ptr<ConfigParameter> S64Parameter::clone(Configuration* group) const {
-  auto copy = std::make_unique<S64Parameter>(name(), ParamDescription::owned(desc(), locDesc()),
-                                             getS64(), advanced(), group);
-  copyStateTo(*copy);
-  return copy;
+  return cloneAs<S64Parameter>(getS64(), advanced(), group);
 }
 
 } // namespace plat

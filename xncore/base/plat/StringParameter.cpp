@@ -31,10 +31,7 @@ bool StringParameter::setFromString(const char* value, int priority) {
 }
 
 std::unique_ptr<ConfigParameter> StringParameter::clone(Configuration* group) const {
-  auto copy = std::make_unique<StringParameter>(name(), ParamDescription::owned(desc(), locDesc()),
-                                                currentValue().get(), advanced(), group);
-  copyStateTo(*copy);
-  return copy;
+  return cloneAs<StringParameter>(currentValue().get(), advanced(), group);
 }
 
 } // namespace plat

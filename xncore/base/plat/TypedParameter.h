@@ -9,6 +9,8 @@
 #include "plat/String.h"
 
 #include <map>
+#include <memory>
+#include <utility>
 
 namespace plat {
 
@@ -36,6 +38,16 @@ protected:
 
   /// Gives `copy`, a new parameter of the same class, this one's values and tags.
   void copyStateTo(TypedParameter& copy) const;
+
+  /// The body of every clone: a `Derived` made from this one's name and
+  /// descriptions followed by `arguments`, then given this one's values and tags.
+  template <class Derived, class... Arguments>
+  std::unique_ptr<ConfigParameter> cloneAs(Arguments&&... arguments) const {
+    auto copy = std::make_unique<Derived>(name(), ParamDescription::owned(desc(), locDesc()),
+                                          std::forward<Arguments>(arguments)...);
+    copyStateTo(*copy);
+    return copy;
+  }
 
 private:
   std::map<int, T> values_;

@@ -3,6 +3,8 @@
 
 #include "plat/Calendar.h"
 
+#include "ErrorText.h"
+
 #include "plat/Exception.h"
 #include "plat/IsoTime.h"
 
@@ -19,6 +21,8 @@
 
 namespace plat {
 namespace {
+
+using test::errorOf;
 
 constexpr Ticks minTicks = std::numeric_limits<Ticks>::min();
 constexpr Ticks maxTicks = std::numeric_limits<Ticks>::max();
@@ -62,16 +66,6 @@ std::string isoUtc(Ticks ticks, bool withMillis) {
   DString text("previous content that must go");
   formatIsoUtc(text, ticks, withMillis);
   return text.get();
-}
-
-template <class Action>
-std::string errorOf(Action action) {
-  try {
-    action();
-  } catch (const Exception& e) {
-    return e.what();
-  }
-  return "no exception";
 }
 
 TEST(CalendarRules, ChecksEachField) {

@@ -4,6 +4,7 @@
 
 #include "plat/File.h"
 
+#include "ErrorText.h"
 #include "TempDir.h"
 
 #include "plat/Calendar.h"
@@ -30,6 +31,8 @@
 namespace plat {
 namespace {
 
+using test::errorOf;
+
 namespace fs = std::filesystem;
 using test::TempDir;
 
@@ -42,16 +45,6 @@ std::string hex(int code) {
   char text[16];
   snprintf(text, sizeof text, "0x%x", code);
   return text;
-}
-
-template <class Action>
-std::string errorOf(Action action) {
-  try {
-    action();
-  } catch (const Exception& e) {
-    return e.what();
-  }
-  return "no exception";
 }
 
 bool isOpenDescriptor(int fd) {
