@@ -26,6 +26,10 @@ if(XN_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(xn_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(XN_TSAN)
+  target_compile_options(xn_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(xn_options INTERFACE -fsanitize=thread)
+endif()
 
 # xn_library(<name> SOURCES ... [PLATFORM_SOURCES ...] [DEPS ...])
 #
@@ -48,16 +52,18 @@ function(xn_library name)
   endif()
 endfunction()
 
-# xn_test(<name> SOURCES ... DEPS ...)
+# xn_test(<name> SOURCES ... DEPS ... [LABELS ...])
 #
-# A GoogleTest executable whose cases CTest lists one by one.
+# A GoogleTest executable whose cases CTest lists one by one. Tests that cross
+# threads carry the label "threads", which the tsan preset runs.
 function(xn_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_DEPS} GTest::gtest GTest::gmock GTest::gtest_main
                                         xn_options)
   xn_executable(${name})
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 30)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 30
+                       PROPERTIES LABELS "${ARG_LABELS}")
 endfunction()
 
 # xn_executable(<target>)
