@@ -55,6 +55,7 @@ constexpr KeyText english[] = {
     {"xnauth_permissions_desc_viewonly", "View-only"},
     {"xnauth_permissions_desc_inputonly", "Input-only"},
     {"xnauth_permissions_desc_custom", "Custom"},
+    {"sysauth_securityprincipal_all_users", "All users"},
 };
 
 } // namespace

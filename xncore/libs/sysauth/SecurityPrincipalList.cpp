@@ -1,0 +1,109 @@
+#include "sysauth/SecurityPrincipalList.h"
+
+#include "plat/Assertion.h"
+#include "plat/NameCompare.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <utility>
+
+namespace sysauth {
+
+namespace {
+
+// Users before groups; within a kind, by the name shown with ASCII case folded.
+bool sortsBefore(bool isGroupA, const char* nameA, bool isGroupB, const char* nameB) noexcept {
+  if (isGroupA != isGroupB)
+    return isGroupB;
+  return plat::compareNoCase(nameA, nameB) < 0;
+}
+
+struct Keyed {
+  plat::String name;
+  std::unique_ptr<SecurityPrincipal> principal;
+};
+
+} // namespace
+
+void SecurityPrincipalList::parse(const char* text, bool dropInvalid) {
+  clear();
+  // Sorting the entries once, stably, puts each where inserting them one by one
+  // would: behind those that sort before or equal to it. Each display name is
+  // asked for once, not at every comparison.
+  std::vector<Keyed> read;
+  auto place = [&] {
+    std::stable_sort(read.begin(), read.end(), [](const Keyed& a, const Keyed& b) {
+      return sortsBefore(a.principal->isGroup, a.name.get(), b.principal->isGroup, b.name.get());
+    });
+    principals_.reserve(read.size());
+    for (Keyed& entry : read)
+      principals_.push_back(std::move(entry.principal));
+  };
+  try {
+    for (const char* cursor = text; cursor && *cursor;) {
+      const char* comma = std::strchr(cursor, ',');
+      int length = comma ? static_cast<int>(comma - cursor) : -1;
+      plat::String entry = plat::strDup(cursor, length);
+      cursor = comma ? comma + 1 : nullptr;
+      if (entry.get()[0] == '\0')
+        continue;
+      auto principal = std::make_unique<SecurityPrincipal>();
+      if (!principal->parse(entry.get(), nullptr) && dropInvalid)
+        continue;
+      plat::String name = principal->getDisplayName();
+      read.push_back({std::move(name), std::move(principal)});
+    }
+  } catch (...) {
+    place();
+    throw;
+  }
+  place();
+}
+
+plat::String SecurityPrincipalList::render() const {
+  std::string text;
+  text.reserve(200 * principals_.size() + 1);
+  for (std::size_t i = 0; i < principals_.size(); ++i) {
+    if (i > 0)
+      text += ',';
+    principals_[i]->appendTo(text);
+  }
+  return plat::String(text.c_str());
+}
+
+int SecurityPrincipalList::add(std::unique_ptr<SecurityPrincipal> principal) {
+  // The list is in order, so the first entry that the new one sorts before is
+  // found by halving rather than by walking from the start.
+  plat::String name = principal->getDisplayName();
+  bool isGroup = principal->isGroup;
+  auto place = std::upper_bound(
+      principals_.begin(), principals_.end(), name,
+      [isGroup](const plat::String& newName, const std::unique_ptr<SecurityPrincipal>& existing) {
+        return sortsBefore(isGroup, newName.get(), existing->isGroup,
+                           existing->getDisplayName().get());
+      });
+  auto inserted = principals_.insert(place, std::move(principal));
+  return static_cast<int>(inserted - principals_.begin());
+}
+
+int SecurityPrincipalList::find(const char* id, bool isGroup) const {
+  for (std::size_t i = 0; i < principals_.size(); ++i) {
+    const SecurityPrincipal& principal = *principals_[i];
+    if (principal.isGroup == isGroup && std::strcmp(principal.id.get(), id) == 0)
+      return static_cast<int>(i);
+  }
+  return -1;
+}
+
+SecurityPrincipal& SecurityPrincipalList::at(int index) {
+  XN_ASSERT(index >= 0 && index < (int)principals_.size());
+  return *principals_[static_cast<std::size_t>(index)];
+}
+
+void SecurityPrincipalList::removeAt(int index) {
+  XN_ASSERT(index >= 0 && index < (int)principals_.size());
+  principals_.erase(principals_.begin() + index);
+}
+
+} // namespace sysauth
