@@ -41,6 +41,10 @@ bool SecurityPrincipal::validate(const char* machine) {
 }
 
 plat::String SecurityPrincipal::getDisplayName() {
+  return plat::String(displayNameText());
+}
+
+const char* SecurityPrincipal::displayNameText() {
   if (displayName.isNull() && nameResolver) {
     try {
       displayName = nameResolver->resolveDisplayName(id.get(), enteredId.get(), isGroup);
@@ -49,8 +53,8 @@ plat::String SecurityPrincipal::getDisplayName() {
     }
   }
   if (!displayName.isNull() && displayName.get()[0] != '\0')
-    return displayName;
-  return enteredId.isNull() ? id : enteredId;
+    return displayName.get();
+  return enteredId.isNull() ? id.get() : enteredId.get();
 }
 
 void SecurityPrincipal::appendTo(std::string& target) const {

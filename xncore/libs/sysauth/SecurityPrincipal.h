@@ -45,6 +45,9 @@ public:
   /// The name to show: the resolver's answer (asked once it is set, and kept),
   /// else the id as entered, else the id. Never null.
   plat::String getDisplayName();
+  /// As getDisplayName, without the copy: the text belongs to this principal
+  /// and lasts until the principal changes.
+  const char* displayNameText();
   /// Appends the entry's text form.
   void appendTo(plat::DString& target) const;
   void appendTo(std::string& target) const;

@@ -2,6 +2,7 @@
 
 #include "plat/Assertion.h"
 #include "plat/NameCompare.h"
+#include "plat/StringUtils.h"
 
 #include <algorithm>
 #include <cstring>
@@ -19,8 +20,10 @@ bool sortsBefore(bool isGroupA, const char* nameA, bool isGroupB, const char* na
   return plat::compareNoCase(nameA, nameB) < 0;
 }
 
+// What the order needs of an entry, at hand without following the pointer.
 struct Keyed {
-  plat::String name;
+  bool isGroup;
+  const char* name;
   std::unique_ptr<SecurityPrincipal> principal;
 };
 
@@ -34,25 +37,23 @@ void SecurityPrincipalList::parse(const char* text, bool dropInvalid) {
   std::vector<Keyed> read;
   auto place = [&] {
     std::stable_sort(read.begin(), read.end(), [](const Keyed& a, const Keyed& b) {
-      return sortsBefore(a.principal->isGroup, a.name.get(), b.principal->isGroup, b.name.get());
+      return sortsBefore(a.isGroup, a.name, b.isGroup, b.name);
     });
     principals_.reserve(read.size());
     for (Keyed& entry : read)
       principals_.push_back(std::move(entry.principal));
   };
+  plat::String entries(text);
   try {
-    for (const char* cursor = text; cursor && *cursor;) {
-      const char* comma = std::strchr(cursor, ',');
-      int length = comma ? static_cast<int>(comma - cursor) : -1;
-      plat::String entry = plat::strDup(cursor, length);
-      cursor = comma ? comma + 1 : nullptr;
-      if (entry.get()[0] == '\0')
+    for (char* cursor = entries.data(); cursor;) {
+      const char* entry = plat::nextToken(cursor, ',');
+      if (!entry || !*entry)
         continue;
       auto principal = std::make_unique<SecurityPrincipal>();
-      if (!principal->parse(entry.get(), nullptr) && dropInvalid)
+      if (!principal->parse(entry, nullptr) && dropInvalid)
         continue;
-      plat::String name = principal->getDisplayName();
-      read.push_back({std::move(name), std::move(principal)});
+      const char* name = principal->displayNameText();
+      read.push_back({principal->isGroup, name, std::move(principal)});
     }
   } catch (...) {
     place();
