@@ -56,17 +56,13 @@ void parseAndRender(benchmark::State& state, bool shuffled) {
   state.counters["per_entry"] = benchmark::Counter(
       entries, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
-BENCHMARK_CAPTURE(parseAndRender, shuffled, true)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(100000)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity(benchmark::oNLogN);
-BENCHMARK_CAPTURE(parseAndRender, sorted, false)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(100000)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity(benchmark::oNLogN);
+
+void sizes(benchmark::internal::Benchmark* family) {
+  family->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+  family->Complexity(benchmark::oNLogN);
+}
+
+BENCHMARK_CAPTURE(parseAndRender, shuffled, true)->Apply(sizes);
+BENCHMARK_CAPTURE(parseAndRender, sorted, false)->Apply(sizes);
 
 } // namespace

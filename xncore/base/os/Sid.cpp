@@ -1,6 +1,7 @@
 #include "os/Sid.h"
 
 #include "plat/Assertion.h"
+#include "plat/BinToHex.h"
 #include "plat/DString.h"
 #include "plat/Exception.h"
 
@@ -13,23 +14,17 @@ namespace os {
 
 namespace {
 
-int digitValue(char ch) noexcept {
-  if (ch >= '0' && ch <= '9')
-    return ch - '0';
-  if (ch >= 'a' && ch <= 'f')
-    return ch - 'a' + 10;
-  if (ch >= 'A' && ch <= 'F')
-    return ch - 'A' + 10;
-  return 99;
+int digitValue(char ch, int base) noexcept {
+  int value = plat::hexDigitValue(ch);
+  return value < 0 || value >= base ? -1 : value;
 }
 
 // Reads at least one digit at `cursor`. Unlike the C library's readers it takes
-// no blanks and no sign, so a SID string has exactly one spelling of each number
-// apart from leading zeros.
+// nothing but digits: no blanks, no sign, no base prefix.
 bool readNumber(const char*& cursor, int base, std::uint64_t max, std::uint64_t& value) noexcept {
   value = 0;
   const char* start = cursor;
-  for (int digit; (digit = digitValue(*cursor)) < base; ++cursor) {
+  for (int digit; (digit = digitValue(*cursor, base)) >= 0; ++cursor) {
     if (value > (max - static_cast<std::uint64_t>(digit)) / static_cast<std::uint64_t>(base))
       return false;
     value = value * static_cast<std::uint64_t>(base) + static_cast<std::uint64_t>(digit);

@@ -1,12 +1,10 @@
 #include "plat/BinToHex.h"
 
-#include <cstring>
-
 #include "plat/Assertion.h"
 
-namespace plat {
+#include <cstring>
 
-namespace {
+namespace plat {
 
 int hexDigitValue(char ch) noexcept {
   if (ch >= '0' && ch <= '9')
@@ -17,8 +15,6 @@ int hexDigitValue(char ch) noexcept {
     return ch - 'A' + 10;
   return -1;
 }
-
-} // namespace
 
 bool addHexDigit(char ch, int& value) noexcept {
   int digit = hexDigitValue(ch);

@@ -2,10 +2,10 @@
 // case accepted in.
 #pragma once
 
-#include <cstddef>
-
 #include "plat/MBuf.h"
 #include "plat/String.h"
+
+#include <cstddef>
 
 namespace plat {
 
@@ -21,6 +21,9 @@ MBuf<unsigned char> hexToBinChecked(const char* text);
 
 /// Reads exactly `count` bytes from the first 2 * `count` characters.
 bool hexToBytes(const char* text, int count, unsigned char* out) noexcept;
+
+/// The value of hex digit `ch`, either case, or -1.
+int hexDigitValue(char ch) noexcept;
 
 /// If `ch` is a hex digit: value = value * 16 + digit, and true.
 bool addHexDigit(char ch, int& value) noexcept;
