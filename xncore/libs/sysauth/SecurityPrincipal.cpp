@@ -11,9 +11,9 @@ namespace sysauth {
 
 SecurityPrincipal::NameResolver* nameResolver = nullptr;
 
-SecurityPrincipal::SecurityPrincipal(const char* id_, const xnauth::Permissions& permissions_,
-                                     bool isGroup_, const char* displayName_)
-    : id(id_), displayName(displayName_), permissions(permissions_), isGroup(isGroup_) {
+SecurityPrincipal::SecurityPrincipal(const char* givenId, const xnauth::Permissions& given,
+                                     bool group, const char* givenName)
+    : id(givenId), displayName(givenName), permissions(given), isGroup(group) {
   if (!validate(nullptr))
     throw plat::Exception("Invalid security principal");
 }

@@ -76,13 +76,12 @@ plat::String SecurityPrincipalList::render() const {
 int SecurityPrincipalList::add(std::unique_ptr<SecurityPrincipal> principal) {
   // The list is in order, so the first entry that the new one sorts before is
   // found by halving rather than by walking from the start.
-  plat::String name = principal->getDisplayName();
+  const char* name = principal->displayNameText();
   bool isGroup = principal->isGroup;
   auto place = std::upper_bound(
       principals_.begin(), principals_.end(), name,
-      [isGroup](const plat::String& newName, const std::unique_ptr<SecurityPrincipal>& existing) {
-        return sortsBefore(isGroup, newName.get(), existing->isGroup,
-                           existing->getDisplayName().get());
+      [isGroup](const char* newName, const std::unique_ptr<SecurityPrincipal>& existing) {
+        return sortsBefore(isGroup, newName, existing->isGroup, existing->displayNameText());
       });
   auto inserted = principals_.insert(place, std::move(principal));
   return static_cast<int>(inserted - principals_.begin());
