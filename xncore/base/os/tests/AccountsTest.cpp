@@ -9,7 +9,6 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -21,21 +20,20 @@ std::string upper(std::string text) {
   return text;
 }
 
-TEST(AccountsTest, ComputerNameIsTheFirstLabelOfTheHostName) {
+TEST(AccountsTest, ThisComputerAndThisProcess) {
   char host[256] = {};
   ASSERT_EQ(gethostname(host, sizeof host - 1), 0);
-  std::string name = computerName().get();
-  ASSERT_FALSE(name.empty());
-  EXPECT_LE(name.size(), 16u);
-  EXPECT_EQ(name, std::string(host).substr(0, std::min<std::size_t>(16, std::strcspn(host, "."))));
+  std::string label(host, std::min<std::size_t>(16, std::strcspn(host, ".")));
+  EXPECT_FALSE(label.empty());
+  EXPECT_EQ(computerName().get(), label);
+  EXPECT_STREQ(sidToString(currentUserSid()).get(), getpwuid(geteuid())->pw_name);
 }
 
 TEST(AccountsTest, LooksNamesUpByKindAndFallsBackOnTheOther) {
   std::string host = computerName().get();
   const struct {
     std::string name;
-    bool wantGroup;
-    bool foundGroup;
+    bool wantGroup, foundGroup;
     const char* id;
   } cases[] = {
       {"root", false, false, "root"},      {"root", true, true, "root"},
@@ -48,40 +46,28 @@ TEST(AccountsTest, LooksNamesUpByKindAndFallsBackOnTheOther) {
     bool isGroup = c.wantGroup;
     Sid sid = sidFromName(c.name.c_str(), nullptr, isGroup);
     EXPECT_EQ(isGroup, c.foundGroup);
-    EXPECT_STREQ(sidToString(sid).get(), c.id);
     EXPECT_EQ(sid.isGroupAccount(), c.foundGroup);
+    EXPECT_STREQ(sidToString(sid).get(), c.id);
   }
   bool isGroup = false;
   EXPECT_STREQ(sidToString(sidFromName("root", upper(host).c_str(), isGroup)).get(), "root");
-  for (const char* missing : {"no-such-account-xn", "OTHERHOST-XN\\root", ""}) {
-    SCOPED_TRACE(missing);
+  for (const char* missing : {"no-such-account-xn", "OTHERHOST-XN\\root", ""})
     EXPECT_EQ(plat::test::errorOf([&] { sidFromName(missing, nullptr, isGroup); }),
-              "no such account");
-  }
+              "no such account")
+        << missing;
   EXPECT_EQ(plat::test::errorOf([&] { sidFromName("root", "elsewhere-xn", isGroup); }),
             "accounts of 'elsewhere-xn' can't be looked up here");
 }
 
 TEST(AccountsTest, AccountsOfIdsBelongToThisComputerOrAreWellKnown) {
-  bool isGroup = true;
-  AccountInfo group = accountFromSid(sidFromName("adm", nullptr, isGroup), nullptr);
+  AccountInfo group = accountFromSid(Sid::forAccount("adm", true), nullptr);
   EXPECT_STREQ(group.name.get(), "adm");
   EXPECT_EQ(group.domain.get(), upper(computerName().get()));
   EXPECT_TRUE(group.isGroup);
-
-  AccountInfo user = accountFromSid(Sid::forAccount("root", false), nullptr);
-  EXPECT_STREQ(user.name.get(), "root");
-  EXPECT_FALSE(user.isGroup);
-
+  EXPECT_FALSE(accountFromSid(Sid::forAccount("root", false), nullptr).isGroup);
   EXPECT_STREQ(accountFromSid(sidFromString("S-1-5-32-545"), nullptr).name.get(), "Users");
   for (const Sid& missing : {sidFromString("S-1-5-21-1-2-3-500"), Sid::forAccount("adm", false)})
     EXPECT_EQ(plat::test::errorOf([&] { accountFromSid(missing, nullptr); }), "no such account");
-}
-
-TEST(AccountsTest, CurrentUserIsTheEffectiveUser) {
-  Sid self = currentUserSid();
-  EXPECT_STREQ(sidToString(self).get(), getpwuid(geteuid())->pw_name);
-  EXPECT_FALSE(self.isGroupAccount());
 }
 
 } // namespace

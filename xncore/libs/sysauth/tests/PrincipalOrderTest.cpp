@@ -62,71 +62,60 @@ TEST_F(PrincipalOrderTest, UsersComeFirstThenGroupsEachByTheNameShown) {
   EXPECT_STREQ(list.at(4).getDisplayName().get(), "S-1-5-21-5");
   EXPECT_EQ(resolver.calls, calls + 1); // a failure is asked again
 
+  auto add = [&](const char* id, bool isGroup, const char* name) {
+    return list.add(std::make_unique<SecurityPrincipal>(id, xnauth::Permissions(), isGroup, name));
+  };
   resolver.names["S-1-5-21-8"] = "ALICE";
-  EXPECT_EQ(list.add(std::make_unique<SecurityPrincipal>("S-1-5-21-8", xnauth::Permissions(), false,
-                                                         nullptr)),
-            3);
-  EXPECT_EQ(list.add(std::make_unique<SecurityPrincipal>("S-1-5-21-9", xnauth::Permissions(), true,
-                                                         "zed")),
-            8);
-  EXPECT_EQ(list.add(std::make_unique<SecurityPrincipal>("S-1-5-21-10", xnauth::Permissions(),
-                                                         false, "~")),
-            7);
+  EXPECT_EQ(add("S-1-5-21-8", false, nullptr), 3); // behind its equals
+  EXPECT_EQ(add("S-1-5-21-9", true, "zed"), 8);
+  EXPECT_EQ(add("S-1-5-21-10", false, "~"), 7);
 }
 
 TEST_F(PrincipalOrderTest, MatchesAStableSortOfRandomLists) {
-  struct Entry {
-    std::string id;
-    bool isGroup;
-    std::string shown;
+  // An entry as "[%]id" and the name shown folded to lower case, for the reference.
+  using Entry = std::pair<std::string, std::string>;
+  auto ruleBefore = [](const Entry& a, const Entry& b) {
+    bool groupA = a.first[0] == '%', groupB = b.first[0] == '%';
+    return groupA != groupB ? groupB : a.second < b.second;
   };
-  auto folded = [](std::string text) {
-    for (char& ch : text)
-      ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
-    return text;
-  };
-  auto ruleBefore = [&](const Entry& a, const Entry& b) {
-    if (a.isGroup != b.isGroup)
-      return b.isGroup;
-    return folded(a.shown) < folded(b.shown);
-  };
-  auto idsOf = [](SecurityPrincipalList& list) {
-    std::vector<std::string> ids;
+  auto entriesOf = [](SecurityPrincipalList& list) {
+    std::vector<std::string> entries;
     for (int i = 0; i < list.size(); ++i)
-      ids.push_back(std::string(list.at(i).isGroup ? "%" : "") + list.at(i).id.get());
-    return ids;
+      entries.push_back((list.at(i).isGroup ? "%" : "") + std::string(list.at(i).id.get()));
+    return entries;
   };
 
   std::mt19937 random(20240611);
-  const std::string alphabet = "aAbB_~";
+  const std::string alphabet = "aAbB_~"; // '_' lies between the upper and the lower case
   for (int round = 0; round < 30; ++round) {
     std::vector<Entry> entries(random() % 150);
     std::string text;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-      Entry& entry = entries[i];
-      entry.id = "S-1-5-21-" + std::to_string(round) + "-" + std::to_string(i);
-      entry.isGroup = random() % 2 == 0;
+      std::string id = "S-1-5-21-" + std::to_string(round) + "-" + std::to_string(i);
       std::string name;
       for (unsigned length = random() % 3; length > 0; --length)
         name += alphabet[random() % alphabet.size()];
-      resolver.names[entry.id] = name;
-      entry.shown = name.empty() ? entry.id : name;
-      text += (entry.isGroup ? "%" : "") + entry.id + ":v,";
+      resolver.names[id] = name;
+      std::string shown = name.empty() ? id : name;
+      std::transform(shown.begin(), shown.end(), shown.begin(), ::tolower);
+      entries[i] = {(random() % 2 ? "%" : "") + id, shown};
+      text += entries[i].first + ":v,";
     }
     std::vector<Entry> sorted = entries;
     std::stable_sort(sorted.begin(), sorted.end(), ruleBefore);
     std::vector<std::string> expected;
     for (const Entry& entry : sorted)
-      expected.push_back((entry.isGroup ? "%" : "") + entry.id);
+      expected.push_back(entry.first);
 
-    SecurityPrincipalList parsed;
+    SecurityPrincipalList parsed, added;
     parsed.parse(text.c_str(), false);
-    EXPECT_EQ(idsOf(parsed), expected) << "round " << round;
-    SecurityPrincipalList added;
-    for (const Entry& entry : entries)
-      added.add(std::make_unique<SecurityPrincipal>(entry.id.c_str(), xnauth::Permissions("v"),
-                                                    entry.isGroup, nullptr));
-    EXPECT_EQ(idsOf(added), expected) << "round " << round;
+    EXPECT_EQ(entriesOf(parsed), expected) << "round " << round;
+    for (const Entry& entry : entries) {
+      bool isGroup = entry.first[0] == '%';
+      added.add(std::make_unique<SecurityPrincipal>(entry.first.c_str() + isGroup,
+                                                    xnauth::Permissions(), isGroup, nullptr));
+    }
+    EXPECT_EQ(entriesOf(added), expected) << "round " << round;
   }
 }
 
