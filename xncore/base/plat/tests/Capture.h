@@ -6,20 +6,25 @@
 
 #include <cstdio>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace plattest {
 
-/// Collects every log record while it exists.
+/// Collects every log record while it exists, from any thread.
 class LogCapture {
 public:
-  LogCapture() : previous_(plat::setLogSink(&LogCapture::record)) { records().clear(); }
+  LogCapture() : previous_(plat::setLogSink(&LogCapture::record)) {
+    std::lock_guard lock(mutex());
+    records().clear();
+  }
   ~LogCapture() { plat::setLogSink(previous_); }
 
   /// The records of `source`, each as "<level> <text>".
   std::vector<std::string> lines(const char* source) const {
+    std::lock_guard lock(mutex());
     std::vector<std::string> selected;
     for (const auto& [from, line] : records())
       if (from == source)
@@ -32,7 +37,12 @@ private:
     static std::vector<std::pair<std::string, std::string>> all;
     return all;
   }
+  static std::mutex& mutex() {
+    static std::mutex records;
+    return records;
+  }
   static void record(int level, const char* source, const char* text) {
+    std::lock_guard lock(mutex());
     records().emplace_back(source, std::to_string(level) + " " + text);
   }
 
