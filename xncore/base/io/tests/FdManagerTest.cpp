@@ -45,8 +45,8 @@ struct HandMarked : FdManager {
 
 TEST(FdManager, DeliversAddressChangesThenReadableThenWritable) {
   heard.clear();
+  Recorder handler("h"); // outlives the manager, which tells it when it goes
   HandMarked manager;
-  Recorder handler("h");
   manager.add(&handler);
   manager.markAll(handler);
   manager.dispatch();
@@ -57,18 +57,19 @@ TEST(FdManager, DeliversAddressChangesThenReadableThenWritable) {
 }
 
 TEST(FdManager, HandlerRemovedOrDeselectedDuringDeliveryIsNotCalled) {
+  using Change = void (*)(HandMarked & manager, Recorder & other);
+  Change remove = [](HandMarked& manager, Recorder& other) { manager.remove(&other); };
+  Change deselect = [](HandMarked& manager, Recorder& other) {
+    manager.select(&other, false, false, false, false);
+  };
   struct Case {
     const char* what;
-    std::function<void(HandMarked&, Recorder&)> change;
+    Change change;
   };
-  for (const Case& test : {
-           Case{"removed", [](HandMarked&m, Recorder&other) { m.remove(&other); }},
-           Case{"deselected",
-                [](HandMarked&m, Recorder&other) { m.select(&other, false, false, false, false); }},
-       }) {
+  for (const Case& test : {Case{"removed", remove}, Case{"deselected", deselect}}) {
     heard.clear();
-    HandMarked manager;
     Recorder first("first"), second("second");
+    HandMarked manager;
     first.then = [&] { test.change(manager, second); };
     second.then = [&] { test.change(manager, first); };
     manager.add(&first);

@@ -63,9 +63,9 @@ TEST(EventManager, TableHoldsAtMost63HandlesAndTellsItsListener) {
 }
 
 TEST(EventManager, AlwaysSignalledHandlesAreServedInTurn) {
-  EventManager manager;
   Event busy, other, late;
-  Served served;
+  Served served; // outlives the manager, which tells it when it goes
+  EventManager manager;
   for (const Event* event : {&busy, &other, &late})
     manager.setHandler(event->handle(), &served);
   busy.set();
