@@ -1,6 +1,7 @@
 #include "mui/qt/MessageQueueQt.h"
 
 #include <QAbstractEventDispatcher>
+#include <QCoreApplication>
 #include <QThread>
 #include <algorithm>
 
@@ -23,7 +24,11 @@ MessageQueueQt::MessageQueueQt() {
 MessageQueueQt::~MessageQueueQt() = default;
 
 bool MessageQueueQt::take() {
-  return dispatcher()->processEvents(QEventLoop::AllEvents);
+  bool handled = dispatcher()->processEvents(QEventLoop::AllEvents);
+  // Outside a running QEventLoop, Qt holds back a deleteLater that was not
+  // called from inside one of its own event handlers; this turn is the loop.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return handled;
 }
 
 // Notifiers for handles that left the table go; the others are only enabled

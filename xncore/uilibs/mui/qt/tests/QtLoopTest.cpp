@@ -41,7 +41,8 @@ protected:
 };
 
 // A descriptor that becomes readable while the loop is blocked posts a Qt
-// event; the event starts a timer; the timer ends the loop.
+// event and asks Qt to delete an object; the event starts a timer; the timer
+// ends the loop.
 TEST_F(QtLoop, ServesDescriptorsQtEventsAndTimers) {
   struct Chain : plat::EventHandler, QObject, plat::Timer::Callback {
     void handleEvent(plat::NativeHandle handle) override {
@@ -49,6 +50,9 @@ TEST_F(QtLoop, ServesDescriptorsQtEventsAndTimers) {
       ASSERT_EQ(read(static_cast<int>(handle), &expirations, sizeof expirations), 8);
       heard.push_back("descriptor");
       QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+      QObject* doomed = new QObject;
+      QObject::connect(doomed, &QObject::destroyed, [] { heard.push_back("deleted"); });
+      doomed->deleteLater();
     }
     bool event(QEvent* event) override {
       if (event->type() != QEvent::User)
@@ -74,7 +78,7 @@ TEST_F(QtLoop, ServesDescriptorsQtEventsAndTimers) {
 
   os::AppLoop loop;
   EXPECT_EQ(loop.run(), 5);
-  EXPECT_EQ(heard, (std::vector<std::string>{"descriptor", "qt event", "timer"}));
+  EXPECT_EQ(heard, (std::vector<std::string>{"descriptor", "qt event", "deleted", "timer"}));
   events.setHandler(alarm, nullptr);
   close(alarm);
 }
