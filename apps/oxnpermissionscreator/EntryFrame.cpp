@@ -5,20 +5,17 @@
 
 #include "plat/Configuration.h"
 #include "plat/Exception.h"
+#include "plat/LogSrc.h"
+#include "product/ProductInit.h"
 #include "product/ProductVersion.h"
 #include "product/StandardHelp.h"
-
-#include <cstdio>
 
 namespace app {
 
 namespace {
 
-// The one failure report. It goes to standard error until the log exists.
-void reportFailure(const plat::Exception& failure) {
-  std::fprintf(stderr, "%s\n", failure.what());
-  std::fflush(stderr);
-}
+// The entry function's own source, for the one failure report.
+plat::LogSrc entryLog(applicationName);
 
 // Arguments from argument 1 on are parameter settings, at priority 10; a help
 // request ends the process from inside, and a bad argument raises.
@@ -35,7 +32,7 @@ int runGuarded(const std::function<int()>& body) {
   try {
     return body();
   } catch (const plat::Exception& failure) {
-    reportFailure(failure);
+    entryLog.error("%s", failure.what());
     return exitFailure;
   }
 }
@@ -44,6 +41,7 @@ int runProgram(int argc, char** argv) {
   return runGuarded([argc, argv] {
     setProcessArguments(fetchProcessArguments(argc, argv));
     product::setProductVersion(displayVersion, numericVersion);
+    product::productInit(processArguments()[0], applicationName, nullptr, true);
     applyCommandLine();
     defineFeaturePermissions();
     return exitSuccess;

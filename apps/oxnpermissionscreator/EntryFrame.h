@@ -9,11 +9,13 @@ namespace app {
 inline constexpr int exitSuccess = 0;
 inline constexpr int exitFailure = 1;
 
+inline constexpr const char* applicationName = "oxnpermissionscreator";
 inline constexpr const char* displayVersion = "7.19.0 (r13)";
 inline constexpr const char* numericVersion = "7.19.0.13";
 
 /// Runs `body` inside the one handler: a plat::Exception that escapes it is
-/// reported and gives exitFailure. Other exceptions are not caught here.
+/// logged at level 0 on source "oxnpermissionscreator" and gives exitFailure.
+/// Other exceptions are not caught here.
 int runGuarded(const std::function<int()>& body);
 
 /// The whole program: start-up and run, inside the handler. Returns the exit code.

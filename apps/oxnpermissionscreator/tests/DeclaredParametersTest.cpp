@@ -1,6 +1,8 @@
-// Every parameter that the program declares, as the global group holds it.
+// Every parameter that the program declares, as the global group holds it,
+// and the log sources that "Log" can address.
 #include "plat/Configuration.h"
 #include "plat/IntParameter.h"
+#include "plat/LogSrc.h"
 
 #include <gtest/gtest.h>
 
@@ -55,6 +57,12 @@ TEST(DeclaredParameters, EachAsDeclaredAndNothingElse) {
   int count = 0;
   plat::Configuration::global().forEachParam([&](plat::ConfigParameter&) { ++count; });
   EXPECT_EQ(count, static_cast<int>(std::size(declared)));
+}
+
+TEST(DeclaredLogSources, ThoseOfTheProgramAndTheBaseExist) {
+  for (const char* name :
+       {"oxnpermissionscreator", "DsObjectPicker", "Assertion", "ConfigParameter", "Configuration"})
+    EXPECT_NE(plat::findLogSrc(name), nullptr) << name;
 }
 
 } // namespace

@@ -3,11 +3,14 @@
 #include "oxnpermissionscreator/CommandLine.h"
 
 #include "plat/Exception.h"
+#include "plat/tests/Capture.h"
+#include "plat/tests/TempDir.h"
 #include "product/ProductVersion.h"
 #include "xnauth/PermissionDefn.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <stdlib.h>
 
 #include <stdexcept>
 #include <string>
@@ -21,22 +24,14 @@ std::string definedLetters() {
   return letters;
 }
 
-TEST(EntryFrame, PlatExceptionGivesExitCodeOneAndOneReport) {
-  testing::internal::CaptureStderr();
-  int code = app::runGuarded([]() -> int { throw plat::Exception("Bad argument '-x'."); });
-  std::string report = testing::internal::GetCapturedStderr();
-
-  EXPECT_EQ(code, app::exitFailure);
-  EXPECT_EQ(report, "Bad argument '-x'.\n");
-}
-
-TEST(EntryFrame, DerivedExceptionsAreCaughtToo) {
-  testing::internal::CaptureStderr();
-  int code = app::runGuarded([]() -> int { throw plat::SystemException("open", 2); });
-  std::string report = testing::internal::GetCapturedStderr();
-
-  EXPECT_EQ(code, app::exitFailure);
-  EXPECT_THAT(report, testing::StartsWith("open: "));
+TEST(EntryFrame, PlatExceptionsGiveExitCodeOneAndOneErrorRecord) {
+  plattest::LogCapture capture;
+  EXPECT_EQ(app::runGuarded([]() -> int { throw plat::Exception("Bad argument '-x'."); }),
+            app::exitFailure);
+  EXPECT_EQ(app::runGuarded([]() -> int { throw plat::SystemException("open", 2); }),
+            app::exitFailure);
+  EXPECT_THAT(capture.lines("oxnpermissionscreator"),
+              testing::ElementsAre("0 Bad argument '-x'.", testing::StartsWith("0 open: ")));
 }
 
 TEST(EntryFrame, OtherExceptionsAreNotCaught) {
@@ -49,6 +44,8 @@ TEST(EntryFrame, BodyResultIsTheExitCode) {
 }
 
 TEST(EntryFrame, WithoutArgumentsRunsToTheEndAndDefinesTheTwelveLetters) {
+  plat::test::TempDir stateHome;
+  ASSERT_EQ(setenv("XDG_STATE_HOME", stateHome.path().c_str(), 1), 0);
   char program[] = "oxnpermissionscreator";
   char* argv[] = {program, nullptr};
 

@@ -3,8 +3,16 @@
 #   cmake -DPROGRAM=<path> -DARGS=<arguments separated by |> -DEXPECT_EXIT=<code>
 #         [-DEXPECT_STDOUT=<regex>] [-DEXPECT_STDERR=<regex>]
 #         [-DSAVE_STDOUT=<file> -DCHECKER=<program taking the file>]
+#         [-DSTATE_HOME=<directory, emptied and made HOME and XDG_STATE_HOME>]
+#         [-DEXPECT_FILE=<path> -DEXPECT_FILE_CONTENT=<regex>]
 #         -P RunProgram.cmake
 string(REPLACE "|" ";" arguments "${ARGS}")
+if(DEFINED STATE_HOME)
+  file(REMOVE_RECURSE ${STATE_HOME})
+  file(MAKE_DIRECTORY ${STATE_HOME})
+  set(ENV{HOME} ${STATE_HOME})
+  set(ENV{XDG_STATE_HOME} ${STATE_HOME})
+endif()
 execute_process(COMMAND ${PROGRAM} ${arguments}
                 RESULT_VARIABLE code OUTPUT_VARIABLE out ERROR_VARIABLE err)
 if(NOT code STREQUAL EXPECT_EXIT)
@@ -21,5 +29,14 @@ if(DEFINED SAVE_STDOUT)
   execute_process(COMMAND ${CHECKER} ${SAVE_STDOUT} RESULT_VARIABLE checked)
   if(NOT checked EQUAL 0)
     message(FATAL_ERROR "${CHECKER} refused ${SAVE_STDOUT}")
+  endif()
+endif()
+if(DEFINED EXPECT_FILE)
+  if(NOT EXISTS ${EXPECT_FILE})
+    message(FATAL_ERROR "no file ${EXPECT_FILE}\nstderr:\n${err}")
+  endif()
+  file(READ ${EXPECT_FILE} content)
+  if(NOT content MATCHES "${EXPECT_FILE_CONTENT}")
+    message(FATAL_ERROR "${EXPECT_FILE} does not match '${EXPECT_FILE_CONTENT}':\n${content}")
   endif()
 endif()

@@ -1,9 +1,12 @@
 // Reads the document that "oxnpermissionscreator -help xml" wrote and checks
 // that it describes this program's global group: every parameter it lists
 // exists with the same value, and every public parameter is listed.
+#include "oxnpermissionscreator/EntryFrame.h"
+
 #include "plat/Configuration.h"
 #include "plat/Exception.h"
 #include "plat/XmlConfig.h"
+#include "product/ProductInit.h"
 
 #include <cstdio>
 #include <string>
@@ -25,6 +28,8 @@ int main(int argc, char** argv) {
   std::fclose(file);
 
   try {
+    // The defaults that the program's start gives the log.
+    product::initLogDefaults(nullptr, app::applicationName);
     plat::Configuration read("Read", nullptr);
     plat::readXmlConfig(read, text.c_str(), nullptr);
     plat::Configuration& global = plat::Configuration::global();

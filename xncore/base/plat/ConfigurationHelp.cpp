@@ -4,6 +4,7 @@
 #include "plat/Configuration.h"
 #include "plat/DString.h"
 #include "plat/EnglishText.h"
+#include "plat/LogDest.h"
 #include "plat/LogSrc.h"
 #include "plat/NameCompare.h"
 #include "plat/utf8.h"

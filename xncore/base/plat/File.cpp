@@ -1,6 +1,7 @@
 #include "plat/File.h"
 
 #include "plat/Exception.h"
+#include "plat/LogSrc.h"
 #include "rdr/EndOfStream.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@
 namespace plat {
 
 namespace {
+
+LogSrc fileLog("File");
 
 const char* openMode(int mode, int flags) noexcept {
   bool append = flags & fileFlagAppend;
@@ -46,7 +49,7 @@ File::~File() {
   if (!ownsStream_ || !stream_)
     return;
   if (std::fclose(stream_) != 0 && logCloseFailure_)
-    std::fprintf(stderr, "Error closing file: %s\n", StdlibException("fclose").what());
+    fileLog.error("Error closing file: %s", StdlibException("fclose").what());
 }
 
 void File::open(const char* path, int mode, int flags) {

@@ -1,7 +1,7 @@
 // plat::File holds a C library stream, opened here by UTF-8 path or handed in.
 // Reading raises rather than returning codes: rdr::EndOfStream at the end of
 // the file, StdlibException for errors. The destructor closes an owned stream
-// and reports a failure to close instead of raising it.
+// and logs a failure to close instead of raising it.
 #pragma once
 
 #include "plat/DString.h"
@@ -42,7 +42,7 @@ public:
 
   std::FILE* stream() const noexcept { return stream_; }
   bool isOpen() const noexcept { return stream_ != nullptr; }
-  /// Whether the destructor reports a failure to close on standard error.
+  /// Whether the destructor logs a failure to close, on source "File".
   void setLogCloseFailure(bool log) noexcept { logCloseFailure_ = log; }
 
   /// Reads up to `size` bytes and returns how many, at least 1. Raises

@@ -1,5 +1,7 @@
 #include "plat/LogParameters.h"
 
+#include "plat/LogConfig.h"
+
 #include <climits>
 
 namespace plat {
@@ -18,5 +20,18 @@ BoolParameter compactLogParameter("CompactLog",
                                   "readability.  Also produces times in local timezone instead "
                                   "of UTC",
                                   false, true);
+
+namespace {
+
+// Every change of "Log" reconfigures all sources. Registered in this file,
+// after the parameter, because only within one file is the order of static
+// construction known.
+class LogParameterChangedCallback : public ParameterChangedCallback {
+public:
+  LogParameterChangedCallback() { logParameter.addCallback(this); }
+  void paramChanged(ConfigParameter*, int) override { reconfigureLog(); }
+} reconfigureOnChange;
+
+} // namespace
 
 } // namespace plat

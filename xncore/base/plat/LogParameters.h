@@ -1,6 +1,5 @@
-// The parameters of logging. They are read by the log destinations and the
-// reconfiguration of sources, which come with the logging library; they are
-// declared here so that they exist, with their defaults, from the start.
+// The parameters of logging, read by the log destinations and the
+// reconfiguration of sources; they exist, with their defaults, from the start.
 #pragma once
 
 #include "plat/BoolParameter.h"

@@ -2,14 +2,20 @@
 
 #include "plat/Assertion.h"
 #include "plat/BoundedAppend.h"
+#include "plat/LogDest.h"
+#include "plat/LogDestMem.h"
 #include "plat/NameCompare.h"
 #include "plat/String.h"
 #include "plat/utf8.h"
 
-#include <atomic>
+#include <algorithm>
 #include <cstring>
 
 namespace plat {
+
+namespace detail {
+std::atomic<bool> logInitialised{false};
+}
 
 namespace {
 
@@ -20,9 +26,7 @@ LogSrc*& listHead() noexcept {
   return head;
 }
 
-std::atomic<LogSink> currentSink{nullptr};
-
-// A record is passed on as it stands unless it holds a control character,
+// A message is passed on as it stands unless it holds a control character,
 // a byte outside ASCII or the escape character itself.
 bool needsEscaping(const char* text) noexcept {
   for (const char* cursor = text; *cursor; ++cursor) {
@@ -38,6 +42,7 @@ bool needsEscaping(const char* text) noexcept {
 LogSrc::LogSrc(const char* name) : name_(name), next_(listHead()) {
   listHead() = this;
   constructed_ = true;
+  detail::applyAttachedDests(*this);
 }
 
 LogSrc::~LogSrc() {
@@ -79,9 +84,9 @@ void LogSrc::write(int level, const char* format, ...) {
 #undef XN_LOG_AT
 
 void LogSrc::writeV(int level, const char* format, va_list args) {
-  checkConstructed();
   if (!passes(level))
     return;
+  checkConstructed();
   char text[4096];
   text[0] = '\0';
   appendBoundedFormatV(text, sizeof text, format, args);
@@ -89,9 +94,9 @@ void LogSrc::writeV(int level, const char* format, va_list args) {
 }
 
 void LogSrc::writeLines(int level, const char* text) {
-  checkConstructed();
   if (!text || !passes(level))
     return;
+  checkConstructed();
   while (*text) {
     std::size_t length = std::strcspn(text, "\n");
     if (length > 0) {
@@ -106,25 +111,50 @@ void LogSrc::writeLines(int level, const char* text) {
   }
 }
 
+void LogSrc::setDest(LogDest* dest, int level) {
+  dests_[dest] = level;
+}
+
+void LogSrc::removeDest(LogDest* dest) {
+  if (dests_.erase(dest))
+    updateLevel();
+}
+
+void LogSrc::clearDests() {
+  dests_.clear();
+  level_.store(-1, std::memory_order_relaxed);
+}
+
+void LogSrc::updateLevel() {
+  std::int32_t highest = -1;
+  for (const auto& [dest, level] : dests_)
+    highest = std::max(highest, std::min(level, static_cast<std::int32_t>(dest->level())));
+  level_.store(highest, std::memory_order_relaxed);
+}
+
 void LogSrc::checkConstructed() const noexcept {
   if (!constructed_)
     assertionFailed(AssertionFail("constructed", __FILE__, __LINE__));
 }
 
 void LogSrc::deliver(int level, const char* text) {
-  LogSink sink = currentSink.load(std::memory_order_acquire);
-  if (!sink)
+  if (dests_.empty() && logInitialised())
     return;
-  if (!needsEscaping(text)) {
-    sink(level, name_, text);
-    return;
+  String visible;
+  if (needsEscaping(text)) {
+    visible = visibleText(text, '~');
+    text = visible.get();
   }
-  String visible = visibleText(text, '~');
-  sink(level, name_, visible.get());
-}
-
-LogSink setLogSink(LogSink sink) noexcept {
-  return currentSink.exchange(sink, std::memory_order_acq_rel);
+  bool delivered = false;
+  for (const auto& [dest, destLevel] : dests_) {
+    if (destLevel >= level && dest->isAvailable()) {
+      dest->write(level, name_, text);
+      delivered = true;
+    }
+  }
+  // Kept until a destination that wants it is ready.
+  if (!delivered)
+    LogDestMem::instance().write(level, name_, text);
 }
 
 LogSrc* findLogSrc(const char* name) noexcept {
@@ -150,10 +180,6 @@ void listLogNames(int width, std::FILE* stream) {
     space -= length + 2;
   }
   std::fputs("\n", stream);
-}
-
-void listLogDests(std::FILE* /*stream*/) {
-  // No named destinations exist before the logging library supplies them.
 }
 
 } // namespace plat

@@ -3,22 +3,35 @@
 // process-wide list, so the list is in reverse order of construction and can
 // be built in any order of static initialisation.
 //
-// This is the part of logging that the rest of the base needs today: sources,
-// levels and the formatting of a record. The destinations ("stderr", "file",
-// "debug", memory and IPC), the parameter-driven `Log` configuration and the
-// replay of early messages come with the logging library; until then a
-// formatted record goes to one replaceable process-wide sink.
+// The parameter "Log" points sources at destinations (LogConfig.h). Until
+// logging is set up every message is formatted, and one that no destination
+// takes waits in the memory destination for a configuration that wants it.
 #pragma once
 
 #include "plat/Compiler.h"
+#include "plat/LogConfig.h"
 #include "plat/NonCopyable.h"
 
+#include <atomic>
 #include <climits>
 #include <cstdarg>
 #include <cstdint>
 #include <cstdio>
+#include <map>
 
 namespace plat {
+
+class LogDest;
+
+namespace detail {
+extern std::atomic<bool> logInitialised;
+}
+
+/// True once logInit() has run; from then on a message that no destination
+/// wants is dropped before it is formatted.
+inline bool logInitialised() noexcept {
+  return detail::logInitialised.load(std::memory_order_relaxed);
+}
 
 class LogSrc : NonCopyable {
 public:
@@ -33,9 +46,9 @@ public:
 
   const char* name() const noexcept { return name_; }
   /// The highest level that any destination of this source takes.
-  int level() const noexcept { return level_; }
-  /// True when a message of `level` would be written.
-  bool passes(int level) const noexcept { return level <= level_; }
+  int level() const noexcept { return level_.load(std::memory_order_relaxed); }
+  /// True when a message of `level` would be formatted and passed on.
+  bool passes(int level) const noexcept { return level <= this->level() || !logInitialised(); }
 
   void error(const char* format, ...) XN_PRINTF_FORMAT(2, 3);
   void info(const char* format, ...) XN_PRINTF_FORMAT(2, 3);
@@ -46,6 +59,17 @@ public:
   /// Writes each non-empty line of `text` as a message of its own.
   void writeLines(int level, const char* text);
 
+  /// Sends messages up to `level` to `dest`, replacing an earlier level for it.
+  /// Call updateLevel() afterwards.
+  void setDest(LogDest* dest, int level);
+  /// Forgets `dest` and updates the level.
+  void removeDest(LogDest* dest);
+  /// Forgets every destination and lets nothing pass until updateLevel().
+  void clearDests();
+  /// The level becomes the highest, over the destinations, of the smaller of
+  /// the entry's level and the destination's own limit; -1 without any.
+  virtual void updateLevel();
+
   /// The most recently constructed source, head of the process-wide list.
   static LogSrc* first() noexcept;
   LogSrc* next() const noexcept { return next_; }
@@ -55,18 +79,15 @@ private:
   void deliver(int level, const char* text);
 
   const char* name_;
-  std::int32_t level_ = INT32_MAX;
+  // Read by every thread that logs and written only by configuration, which
+  // happens on one thread; the destination map is not locked at all.
+  std::atomic<std::int32_t> level_{INT32_MAX};
+  std::map<LogDest*, std::int32_t> dests_;
   LogSrc* next_;
   // Zero in static storage until the constructor runs, so that a source used
   // by another translation unit's static initialiser is caught.
   bool constructed_ = false;
 };
-
-/// The receiver of formatted records until destinations exist.
-using LogSink = void (*)(int level, const char* source, const char* text);
-
-/// Installs `sink` (null drops records, the default) and returns the previous one.
-LogSink setLogSink(LogSink sink) noexcept;
 
 /// The source with `name`, compared without regard to case, or null.
 LogSrc* findLogSrc(const char* name) noexcept;
@@ -74,8 +95,5 @@ LogSrc* findLogSrc(const char* name) noexcept;
 /// Prints the source names for help, comma-separated, in lines of at most
 /// `width` columns, each line indented by two spaces.
 void listLogNames(int width, std::FILE* stream);
-
-/// Prints one line "  <name>" for each named destination.
-void listLogDests(std::FILE* stream);
 
 } // namespace plat

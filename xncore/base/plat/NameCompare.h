@@ -14,6 +14,11 @@ inline bool equalsNoCase(const char* a, const char* b) noexcept {
   return compareNoCase(a, b) == 0;
 }
 
+/// Whether `text` matches `pattern`, in which "*" stands for any run of
+/// characters, including none, and every other character for itself. Null
+/// never matches. Without `caseSensitive`, ASCII letters fold as above.
+bool matchPattern(const char* pattern, const char* text, bool caseSensitive) noexcept;
+
 /// The ordering of maps keyed by names.
 struct NoCaseLess {
   bool operator()(const String& a, const String& b) const noexcept {

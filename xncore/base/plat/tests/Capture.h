@@ -1,9 +1,11 @@
 // Test helpers that catch what the code under test writes: log records through
-// the process-wide sink, and text written to a stdio stream.
+// a destination that every source writes to, and text written to a stdio stream.
 #pragma once
 
+#include "plat/LogDest.h"
 #include "plat/LogSrc.h"
 
+#include <climits>
 #include <cstdio>
 #include <functional>
 #include <mutex>
@@ -13,40 +15,29 @@
 
 namespace plattest {
 
-/// Collects every log record while it exists, from any thread.
-class LogCapture {
+/// Collects every log record, of every level and source, while it exists.
+class LogCapture : public plat::LogDest {
 public:
-  LogCapture() : previous_(plat::setLogSink(&LogCapture::record)) {
-    std::lock_guard lock(mutex());
-    records().clear();
+  LogCapture() : LogDest(nullptr) { plat::attachLogDest("*", this, INT_MAX); }
+
+  void write(int level, const char* source, const char* text) override {
+    std::lock_guard<std::mutex> hold(lock_);
+    records_.emplace_back(source, std::to_string(level) + " " + text);
   }
-  ~LogCapture() { plat::setLogSink(previous_); }
 
   /// The records of `source`, each as "<level> <text>".
   std::vector<std::string> lines(const char* source) const {
-    std::lock_guard lock(mutex());
+    std::lock_guard<std::mutex> hold(lock_);
     std::vector<std::string> selected;
-    for (const auto& [from, line] : records())
+    for (const auto& [from, line] : records_)
       if (from == source)
         selected.push_back(line);
     return selected;
   }
 
 private:
-  static std::vector<std::pair<std::string, std::string>>& records() {
-    static std::vector<std::pair<std::string, std::string>> all;
-    return all;
-  }
-  static std::mutex& mutex() {
-    static std::mutex records;
-    return records;
-  }
-  static void record(int level, const char* source, const char* text) {
-    std::lock_guard lock(mutex());
-    records().emplace_back(source, std::to_string(level) + " " + text);
-  }
-
-  plat::LogSink previous_;
+  mutable std::mutex lock_;
+  std::vector<std::pair<std::string, std::string>> records_;
 };
 
 /// What `write` puts into a stream.

@@ -1,0 +1,23 @@
+// Where the program keeps its data: a folder of the company below one of the
+// places the system sets aside for it, by scope.
+#pragma once
+
+#include "plat/String.h"
+
+namespace os {
+
+enum class AppDataScope {
+  UserRoaming = 0, ///< the user's data that may follow the user between machines
+  UserLocal = 1,   ///< the user's data that stays on this machine, such as logs
+  Service = 2,     ///< data of a service of the whole machine
+};
+
+/// The system's folder for `scope`. Raises plat::Exception "Cannot find user
+/// profile known folder" when there is none.
+plat::String knownFolderPath(AppDataScope scope);
+
+/// "<known folder>/<company>", with "-Service" after the company for the
+/// service scope; created when `create` is set (an existing one is fine).
+plat::String getAppDataDir(AppDataScope scope, const char* company, bool create);
+
+} // namespace os
