@@ -2,6 +2,7 @@
 
 #include "io/SocketManager.h"
 #include "plat/Assertion.h"
+#include "plat/LogConfig.h"
 #include "plat/MessageQueue.h"
 
 namespace os {
@@ -37,6 +38,9 @@ AppLoop& AppLoop::inst() noexcept {
 }
 
 int AppLoop::run() {
+  // From here the destinations that "Log" names are in force and early lines
+  // are no longer kept; only the first run changes anything.
+  plat::logInit();
   XN_ASSERT(!isRunning);
   struct Running {
     bool& flag;

@@ -7,6 +7,7 @@
 #include "mui/headless/MessageQueueHeadless.h"
 #include "plat/DeferredDeleter.h"
 #include "plat/Event.h"
+#include "plat/LogSrc.h"
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>
@@ -95,6 +96,7 @@ TEST_F(AppLoopTest, QuitEndsRunWithItsCode) {
   queue.post([] { heard.push_back("never"); });
   EXPECT_EQ(loop.run(), 7);
   EXPECT_FALSE(loop.running());
+  EXPECT_TRUE(plat::logInitialised()) << "the loop ends the start-up phase of logging";
   EXPECT_EQ(queue.pending(), 1u) << "nothing after the quit";
 
   os::AppLoop::quit(3);
