@@ -96,3 +96,50 @@ function(xn_fuzzer name)
   target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
   xn_executable(fuzz_${name})
 endfunction()
+
+# xn_catalog(<target> [NAME <catalog>] [PO_DIR <dir>] [KEYS_ONLY | TABLE_ONLY])
+#
+# The translation catalog of a library, from one .po file per language in
+# PO_DIR (default: po/ beside the CMakeLists). The catalog generator checks the
+# files and writes the header <library>/TextKeys.h of key constants, on the
+# target's include path, and the table that registers the texts. The base
+# library, which the translations build on, takes only the header
+# (KEYS_ONLY), and the translations library compiles its table (TABLE_ONLY).
+function(xn_catalog target)
+  cmake_parse_arguments(ARG "KEYS_ONLY;TABLE_ONLY" "NAME;PO_DIR" "" ${ARGN})
+  if(NOT ARG_NAME)
+    set(ARG_NAME ${target})
+  endif()
+  if(NOT ARG_PO_DIR)
+    set(ARG_PO_DIR ${CMAKE_CURRENT_SOURCE_DIR}/po)
+  endif()
+  get_filename_component(library_dir ${ARG_PO_DIR} DIRECTORY)
+  get_filename_component(library_dir ${library_dir} NAME)
+  file(GLOB po_files CONFIGURE_DEPENDS ${ARG_PO_DIR}/*.po)
+  list(SORT po_files)
+  set(out_dir ${CMAKE_CURRENT_BINARY_DIR}/catalog_${ARG_NAME})
+  set(outputs)
+  set(arguments --catalog ${ARG_NAME})
+  if(NOT ARG_TABLE_ONLY)
+    set(header ${out_dir}/include/${library_dir}/TextKeys.h)
+    list(APPEND outputs ${header})
+    list(APPEND arguments --keys ${header})
+    if(NOT ARG_KEYS_ONLY)
+      list(APPEND arguments --register)
+    endif()
+    target_include_directories(${target} PUBLIC ${out_dir}/include)
+  endif()
+  if(NOT ARG_KEYS_ONLY)
+    set(table ${out_dir}/${ARG_NAME}Catalog.cpp)
+    list(APPEND outputs ${table})
+    list(APPEND arguments --table ${table})
+  endif()
+  add_custom_command(
+    OUTPUT ${outputs}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${out_dir}/include/${library_dir}
+    COMMAND $<TARGET_FILE:locgen> ${arguments} ${po_files}
+    DEPENDS locgen ${po_files}
+    COMMENT "Generating the translation catalog ${ARG_NAME}"
+    VERBATIM)
+  target_sources(${target} PRIVATE ${outputs})
+endfunction()

@@ -1,8 +1,10 @@
 #include "chat/ChatPermission.h"
 
+#include "chat/TextKeys.h"
+
 namespace chat {
 
 ChatPermission::ChatPermission()
-    : FeaturePermission('h', "chat_permission_desc", "fd", "EnableChat") {}
+    : FeaturePermission('h', textkey::chat_permission_desc, "fd", "EnableChat") {}
 
 } // namespace chat

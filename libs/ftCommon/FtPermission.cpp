@@ -1,7 +1,10 @@
 #include "ftCommon/FtPermission.h"
 
+#include "ftCommon/TextKeys.h"
+
 namespace ftCommon {
 
-FtPermission::FtPermission() : FeaturePermission('t', "ft_permission_desc", "fd", "ShareFiles") {}
+FtPermission::FtPermission()
+    : FeaturePermission('t', textkey::ft_permission_desc, "fd", "ShareFiles") {}
 
 } // namespace ftCommon

@@ -1,8 +1,11 @@
 #include "localInput/LocalInputPermission.h"
 
+#include "localInput/TextKeys.h"
+
 namespace localInput {
 
 LocalInputPermission::LocalInputPermission()
-    : FeaturePermission('n', "localInput_permission_desc", "f", "LocalInputAllowClientControl") {}
+    : FeaturePermission('n', textkey::localInput_permission_desc, "f",
+                        "LocalInputAllowClientControl") {}
 
 } // namespace localInput

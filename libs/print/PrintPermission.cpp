@@ -1,8 +1,10 @@
 #include "print/PrintPermission.h"
 
+#include "print/TextKeys.h"
+
 namespace print {
 
 PrintPermission::PrintPermission()
-    : FeaturePermission('r', "print_permission_desc", "fd", "EnableRemotePrinting") {}
+    : FeaturePermission('r', textkey::print_permission_desc, "fd", "EnableRemotePrinting") {}
 
 } // namespace print

@@ -1,8 +1,11 @@
 #include "screenrecorder/ScreenRecorderPermission.h"
 
+#include "screenrecorder/TextKeys.h"
+
 namespace screenrecorder {
 
 ScreenRecorderPermission::ScreenRecorderPermission()
-    : FeaturePermission('w', "screenrecorder_permission_desc", "fd", "SessionRecordEnable") {}
+    : FeaturePermission('w', textkey::screenrecorder_permission_desc, "fd", "SessionRecordEnable") {
+}
 
 } // namespace screenrecorder

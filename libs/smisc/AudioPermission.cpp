@@ -1,8 +1,10 @@
 #include "smisc/AudioPermission.h"
 
+#include "xnauth/TextKeys.h"
+
 namespace smisc {
 
 AudioPermission::AudioPermission()
-    : FeaturePermission('l', "xnauth_permissions_listen_desc", "fdv", "AudioEnable") {}
+    : FeaturePermission('l', textkey::xnauth_permissions_listen_desc, "fdv", "AudioEnable") {}
 
 } // namespace smisc

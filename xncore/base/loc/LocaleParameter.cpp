@@ -1,8 +1,10 @@
 #include "loc/LocaleParameter.h"
 
+#include "loc/TextKeys.h"
+
 namespace loc {
 
 // Will move beside the locale selection once the catalogs exist.
-plat::StringParameter localeParameter("Locale", plat::DescKey{"loc_param_locale"}, "");
+plat::StringParameter localeParameter("Locale", plat::DescKey{textkey::loc_param_locale}, "");
 
 } // namespace loc

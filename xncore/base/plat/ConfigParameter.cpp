@@ -2,9 +2,9 @@
 
 #include "plat/Assertion.h"
 #include "plat/BinaryParameter.h"
+#include "plat/CatalogText.h"
 #include "plat/Configuration.h"
 #include "plat/DString.h"
-#include "plat/EnglishText.h"
 #include "plat/LogSrc.h"
 #include "plat/StringUtils.h"
 
@@ -68,7 +68,7 @@ String ConfigParameter::valueToString(int value) const {
 }
 
 const char* ConfigParameter::getDescription() const {
-  return desc_ ? desc_ : englishText(locDesc_);
+  return desc_ ? desc_ : XN_CATALOG_TEXT(locDesc_);
 }
 
 String ConfigParameter::getDefault() const {

@@ -9,6 +9,7 @@
 #include "plat/IntParameter.h"
 #include "plat/S64Parameter.h"
 #include "plat/StringParameter.h"
+#include "plat/TextKeys.h"
 
 namespace plat {
 
@@ -38,7 +39,8 @@ Configuration::~Configuration() {
 Configuration& Configuration::global() {
   // Never destroyed, so that static parameters can unlink themselves at exit
   // in any order.
-  static Configuration* root = new Configuration("Global", "plat_configuration_global_params");
+  static Configuration* root =
+      new Configuration("Global", textkey::plat_configuration_global_params);
   return *root;
 }
 

@@ -1,10 +1,11 @@
 // The command line: arguments are parameter settings until the first one that
 // is not, which is either a help request or an error.
+#include "plat/CatalogText.h"
 #include "plat/Configuration.h"
 #include "plat/DString.h"
-#include "plat/EnglishText.h"
 #include "plat/Exception.h"
 #include "plat/NameCompare.h"
+#include "plat/TextKeys.h"
 
 #include <cstring>
 
@@ -30,10 +31,10 @@ int helpMode(const char* next) {
 
 [[noreturn]] void throwBadArgument(const char* argument, bool withHelp) {
   DString message;
-  message.append(englishFormat("plat_bad_argument", argument).get());
+  message.append(XN_CATALOG_FORMAT(textkey::plat_bad_argument, argument).get());
   if (withHelp) {
     message.append("  ");
-    message.append(englishText("plat_run_with_help"));
+    message.append(XN_CATALOG_TEXT(textkey::plat_run_with_help));
   }
   Exception failure(message.get());
   failure.setType("BadCmdLineArg");

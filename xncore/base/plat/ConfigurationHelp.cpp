@@ -1,12 +1,13 @@
 // What a group tells people about itself: the help text of the command line
 // and the dump of values into the log.
 #include "plat/BinaryParameter.h"
+#include "plat/CatalogText.h"
 #include "plat/Configuration.h"
 #include "plat/DString.h"
-#include "plat/EnglishText.h"
 #include "plat/LogDest.h"
 #include "plat/LogSrc.h"
 #include "plat/NameCompare.h"
+#include "plat/TextKeys.h"
 #include "plat/utf8.h"
 
 #include <algorithm>
@@ -44,7 +45,7 @@ String describe(const ConfigParameter& parameter, bool showDefaults) {
   text.wordWrap(helpWidth, descriptionIndent);
   if (!showDefaults || dynamic_cast<const BinaryParameter*>(&parameter))
     return text.takeString();
-  String note = strFormat("(%s=%s)", englishText("plat_configuration_help_default"),
+  String note = strFormat("(%s=%s)", XN_CATALOG_TEXT(textkey::plat_configuration_help_default),
                           parameter.getValueString().get());
   if (codePointCount(note.get()) + 1 + lastLineLength(text.get()) <= helpWidth) {
     text.appendFormat(" %s", note.get());
@@ -59,7 +60,7 @@ String describe(const ConfigParameter& parameter, bool showDefaults) {
 
 void printParamList(const Configuration& group, bool all, bool showDefaults, std::FILE* out) {
   if (group.titleKey())
-    std::fprintf(out, "%s:\n", englishText(group.titleKey()));
+    std::fprintf(out, "%s:\n", XN_CATALOG_TEXT(group.titleKey()));
   else
     std::fprintf(out, "%s Parameters:\n", group.name());
   std::vector<const ConfigParameter*> listed;
@@ -78,14 +79,14 @@ void printParamList(const Configuration& group, bool all, bool showDefaults, std
 } // namespace
 
 void Configuration::printHelp(bool all, bool showDefaults, std::FILE* out) const {
-  String usage = wrapText(englishText("plat_configuration_param_usage"), helpWidth, 0);
+  String usage = wrapText(XN_CATALOG_TEXT(textkey::plat_configuration_param_usage), helpWidth, 0);
   std::fprintf(out, "%s\n\n", usage.get());
   printParamList(*this, all, showDefaults, out);
   if (!all)
     return;
-  std::fprintf(out, "\n%s\n", englishText("plat_configuration_log_names_title"));
+  std::fprintf(out, "\n%s\n", XN_CATALOG_TEXT(textkey::plat_configuration_log_names_title));
   listLogNames(helpWidth, out);
-  std::fprintf(out, "\n%s\n", englishText("plat_configuration_log_dests_title"));
+  std::fprintf(out, "\n%s\n", XN_CATALOG_TEXT(textkey::plat_configuration_log_dests_title));
   listLogDests(out);
 }
 

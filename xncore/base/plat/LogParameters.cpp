@@ -1,19 +1,20 @@
 #include "plat/LogParameters.h"
 
 #include "plat/LogConfig.h"
+#include "plat/TextKeys.h"
 
 #include <climits>
 
 namespace plat {
 
 // Read by the reconfiguration of log sources.
-StringParameter logParameter("Log", DescKey{"plat_param_log"}, "");
+StringParameter logParameter("Log", DescKey{textkey::plat_param_log}, "");
 // Read by the manager of the destination "file".
-StringParameter logDirParameter("LogDir", DescKey{"plat_param_logdir"}, "");
-StringParameter logFileParameter("LogFile", DescKey{"plat_param_logfile"}, "");
+StringParameter logDirParameter("LogDir", DescKey{textkey::plat_param_logdir}, "");
+StringParameter logFileParameter("LogFile", DescKey{textkey::plat_param_logfile}, "");
 // Read by the rotation of log files.
-IntParameter logKeepDaysParameter("LogKeepDays", DescKey{"plat_param_log_keep_days"}, 30, false,
-                                  nullptr, 0, INT_MAX);
+IntParameter logKeepDaysParameter("LogKeepDays", DescKey{textkey::plat_param_log_keep_days}, 30,
+                                  false, nullptr, 0, INT_MAX);
 // Read by the line format of file destinations.
 BoolParameter compactLogParameter("CompactLog",
                                   "Whether to produce more compact logging lines for "

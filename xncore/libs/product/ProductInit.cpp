@@ -1,5 +1,6 @@
 #include "product/ProductInit.h"
 
+#include "loc/Localize.h"
 #include "os/AppDataDir.h"
 #include "os/Environment.h"
 #include "plat/DString.h"
@@ -35,6 +36,9 @@ void publishDataDirectory() {
 } // namespace
 
 void productInit(const char* argv0, const char* appName, const char* logSpec, bool enableFileLog) {
+  // Texts follow "Locale" from here on, so that a locale given on the command
+  // line already applies to the help it asks for.
+  loc::Localize::instance().init({});
   plat::String derivedName;
   if (!appName) {
     derivedName = plat::pathBaseName(argv0, ".exe");

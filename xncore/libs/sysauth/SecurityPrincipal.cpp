@@ -1,9 +1,10 @@
 #include "sysauth/SecurityPrincipal.h"
 
+#include "loc/Localize.h"
 #include "plat/Assertion.h"
-#include "plat/EnglishText.h"
 #include "plat/Exception.h"
 #include "sysauth/PrincipalIdCheck.h"
+#include "sysauth/TextKeys.h"
 
 #include <cstring>
 
@@ -32,7 +33,7 @@ bool SecurityPrincipal::parse(const char* text, const char* machine) {
 bool SecurityPrincipal::validate(const char* machine) {
   XN_ASSERT(!id.isNull());
   if (!isGroup && std::strcmp(id.get(), "*") == 0) {
-    displayName = plat::String(plat::englishText("sysauth_securityprincipal_all_users"));
+    displayName = plat::String(XN_TEXT(textkey::sysauth_securityprincipal_all_users));
     return true;
   }
   if (!isGroup && id.get()[0] == '\0')

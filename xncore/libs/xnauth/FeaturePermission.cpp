@@ -1,6 +1,6 @@
 #include "xnauth/FeaturePermission.h"
 
-#include "plat/EnglishText.h"
+#include "loc/Localize.h"
 #include "xnauth/PermissionDefn.h"
 
 namespace xnauth {
@@ -8,7 +8,7 @@ namespace xnauth {
 FeaturePermission::FeaturePermission(char code, const char* descriptionKey, const char* groups,
                                      const char* parameters)
     : code_(code) {
-  definePermission(code, plat::englishText(descriptionKey), groups, parameters);
+  definePermission(code, XN_TEXT(descriptionKey), groups, parameters);
 }
 
 FeaturePermission::~FeaturePermission() {

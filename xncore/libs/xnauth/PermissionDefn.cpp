@@ -1,7 +1,8 @@
 #include "xnauth/PermissionDefn.h"
 
+#include "loc/Localize.h"
 #include "plat/Assertion.h"
-#include "plat/EnglishText.h"
+#include "xnauth/TextKeys.h"
 
 #include <algorithm>
 #include <cstring>
@@ -71,15 +72,14 @@ void defineBuiltIns(Alphabet& alphabet) {
     const char* key;
   };
   static constexpr BuiltIn builtIns[] = {
-      {'s', "fdv", nullptr, "xnauth_permissions_view_desc"},
-      {'k', "fdi", "AcceptKeyEvents", "xnauth_permissions_keyevents_desc"},
-      {'p', "fdi", "AcceptPointerEvents", "xnauth_permissions_ptrevents_desc"},
-      {'c', "fdi", "AcceptCutText,SendCutText", "xnauth_permissions_cuttext_desc"},
-      {'q', "f", nullptr, "xnauth_permissions_noquery_desc"},
+      {'s', "fdv", nullptr, textkey::xnauth_permissions_view_desc},
+      {'k', "fdi", "AcceptKeyEvents", textkey::xnauth_permissions_keyevents_desc},
+      {'p', "fdi", "AcceptPointerEvents", textkey::xnauth_permissions_ptrevents_desc},
+      {'c', "fdi", "AcceptCutText,SendCutText", textkey::xnauth_permissions_cuttext_desc},
+      {'q', "f", nullptr, textkey::xnauth_permissions_noquery_desc},
   };
   for (const BuiltIn& builtIn : builtIns)
-    addDefinition(alphabet, builtIn.code, plat::englishText(builtIn.key), builtIn.groups,
-                  builtIn.parameters);
+    addDefinition(alphabet, builtIn.code, XN_TEXT(builtIn.key), builtIn.groups, builtIn.parameters);
 }
 
 // Every public operation goes through here, so the built-in letters exist

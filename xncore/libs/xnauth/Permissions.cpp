@@ -1,8 +1,9 @@
 #include "xnauth/Permissions.h"
 
+#include "loc/Localize.h"
 #include "plat/Assertion.h"
 #include "plat/DString.h"
-#include "plat/EnglishText.h"
+#include "xnauth/TextKeys.h"
 
 #include <algorithm>
 #include <cstring>
@@ -196,14 +197,16 @@ const char* Permissions::getDescription() const {
     const char* key;
   };
   static constexpr Preset presets[] = {
-      {"", "xnauth_permissions_desc_noaccess"},   {"f", "xnauth_permissions_desc_full"},
-      {"d", "xnauth_permissions_desc_defaults"},  {"v", "xnauth_permissions_desc_viewonly"},
-      {"i", "xnauth_permissions_desc_inputonly"},
+      {"", textkey::xnauth_permissions_desc_noaccess},
+      {"f", textkey::xnauth_permissions_desc_full},
+      {"d", textkey::xnauth_permissions_desc_defaults},
+      {"v", textkey::xnauth_permissions_desc_viewonly},
+      {"i", textkey::xnauth_permissions_desc_inputonly},
   };
   // Parsed on every call, since the groups change as features come and go.
   for (const Preset& preset : presets) {
     if (equalsAllowed(Permissions(preset.text)))
-      return plat::englishText(preset.key);
+      return XN_TEXT(preset.key);
   }
   return nullptr;
 }
@@ -217,7 +220,7 @@ plat::String Permissions::describe(const char* text) {
   }
   if (description)
     return plat::String(description);
-  return plat::strFormat("%s (%s)", plat::englishText("xnauth_permissions_desc_custom"), text);
+  return plat::strFormat("%s (%s)", XN_TEXT(textkey::xnauth_permissions_desc_custom), text);
 }
 
 } // namespace xnauth
