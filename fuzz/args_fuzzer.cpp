@@ -3,6 +3,8 @@
 // a bad argument or bad UTF-8; a help request reaches the help function with
 // a valid mode; after parsing every parameter still holds a value its type
 // allows; and the help text and value dump can be made of whatever was set.
+#include "FuzzCheck.h"
+
 #include "plat/BinaryParameter.h"
 #include "plat/BoolParameter.h"
 #include "plat/Configuration.h"
@@ -23,10 +25,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition)
-    __builtin_trap();
-}
+using xnfuzz::check;
 
 const char* const levels[] = {"Low", "Medium", "High", nullptr};
 

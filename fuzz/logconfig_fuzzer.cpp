@@ -5,6 +5,8 @@
 // does not parse is reported, except the empty ones; a match without regard
 // to case follows from one with it; a pattern without "*" matches exactly its
 // own text; and replacing characters of a name by "*" still matches it.
+#include "FuzzCheck.h"
+
 #include "plat/LogConfig.h"
 #include "plat/LogDest.h"
 #include "plat/NameCompare.h"
@@ -18,10 +20,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition)
-    __builtin_trap();
-}
+using xnfuzz::check;
 
 class Sink : public plat::LogDest {
 public:

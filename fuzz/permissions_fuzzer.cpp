@@ -2,6 +2,8 @@
 // Invariants: a text that parses reads back as exactly itself; its canonical
 // form parses again to the same states and reads back unchanged; a text that
 // doesn't parse raises ParseException and nothing else.
+#include "FuzzCheck.h"
+
 #include "xnauth/Permissions.h"
 
 #include <cstddef>
@@ -9,14 +11,7 @@
 #include <cstring>
 #include <string>
 
-namespace {
-
-void check(bool condition) {
-  if (!condition)
-    __builtin_trap();
-}
-
-} // namespace
+using xnfuzz::check;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   // The system's texts are NUL-terminated: whatever follows a NUL is never seen.

@@ -7,6 +7,8 @@
 // The system's account look-up can take a fraction of a millisecond per name,
 // so a stand-in answers instead: a name (after any "HOST\") starting with 'u'
 // is a user, 'g' a group, 'b' both, and its lower-case form is its id.
+#include "FuzzCheck.h"
+
 #include "os/Sid.h"
 #include "plat/Exception.h"
 #include "plat/StringUtils.h"
@@ -20,10 +22,7 @@
 
 namespace {
 
-void check(bool condition) {
-  if (!condition)
-    __builtin_trap();
-}
+using xnfuzz::check;
 
 os::Sid standInLookup(const char* name, const char*, bool& isGroup) {
   const char* backslash = std::strrchr(name, '\\');

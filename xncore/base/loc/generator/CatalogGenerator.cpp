@@ -37,7 +37,10 @@ struct Language {
 int errors = 0;
 
 void fail(const std::string& where, int line, const std::string& message) {
-  std::cerr << where << ':' << line << ": " << message << '\n';
+  std::cerr << where;
+  if (line > 0)
+    std::cerr << ':' << line;
+  std::cerr << ": " << message << '\n';
   ++errors;
 }
 
