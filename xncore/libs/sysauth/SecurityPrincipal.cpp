@@ -31,7 +31,8 @@ bool SecurityPrincipal::parse(const char* text, const char* machine) {
 }
 
 bool SecurityPrincipal::validate(const char* machine) {
-  XN_ASSERT(!id.isNull());
+  if (id.isNull())
+    plat::assertionFailed(plat::AssertionFail("id", __FILE__, __LINE__));
   if (!isGroup && std::strcmp(id.get(), "*") == 0) {
     displayName = plat::String(XN_TEXT(textkey::sysauth_securityprincipal_all_users));
     return true;

@@ -74,17 +74,26 @@ plat::String SecurityPrincipalList::render() const {
 }
 
 int SecurityPrincipalList::add(std::unique_ptr<SecurityPrincipal> principal) {
-  // The list is in order, so the first entry that the new one sorts before is
-  // found by halving rather than by walking from the start.
+  // A walk from the start rather than a halving search: a name the resolver
+  // could not give before may have come since, and then the list is no longer
+  // in order, while the place must still be in front of the first entry that
+  // the new one sorts before.
   const char* name = principal->displayNameText();
   bool isGroup = principal->isGroup;
-  auto place = std::upper_bound(
-      principals_.begin(), principals_.end(), name,
-      [isGroup](const char* newName, const std::unique_ptr<SecurityPrincipal>& existing) {
-        return sortsBefore(isGroup, newName, existing->isGroup, existing->displayNameText());
-      });
+  auto place = std::find_if(principals_.begin(), principals_.end(),
+                            [&](const std::unique_ptr<SecurityPrincipal>& existing) {
+                              return sortsBefore(isGroup, name, existing->isGroup,
+                                                 existing->displayNameText());
+                            });
   auto inserted = principals_.insert(place, std::move(principal));
   return static_cast<int>(inserted - principals_.begin());
+}
+
+void SecurityPrincipalList::checkIndex(int index) const {
+  // The expression is spelt out, as the reports have always named it.
+  if (index < 0 || index >= size())
+    plat::assertionFailed(
+        plat::AssertionFail("index >=0 && index < (int)principals.size()", __FILE__, __LINE__));
 }
 
 int SecurityPrincipalList::find(const char* id, bool isGroup) const {
@@ -97,12 +106,12 @@ int SecurityPrincipalList::find(const char* id, bool isGroup) const {
 }
 
 SecurityPrincipal& SecurityPrincipalList::at(int index) {
-  XN_ASSERT(index >= 0 && index < (int)principals_.size());
+  checkIndex(index);
   return *principals_[static_cast<std::size_t>(index)];
 }
 
 void SecurityPrincipalList::removeAt(int index) {
-  XN_ASSERT(index >= 0 && index < (int)principals_.size());
+  checkIndex(index);
   principals_.erase(principals_.begin() + index);
 }
 

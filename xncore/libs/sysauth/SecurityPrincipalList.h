@@ -22,7 +22,8 @@ public:
   void parse(const char* text, bool dropInvalid);
   /// The text form of all entries in order; "" for an empty list.
   plat::String render() const;
-  /// Inserts behind the entries that sort before or equal to it; returns its index.
+  /// Inserts in front of the first entry that it sorts before, or at the end;
+  /// returns its index.
   int add(std::unique_ptr<SecurityPrincipal> principal);
   /// The index of the first entry of that kind whose id has exactly these bytes, or -1.
   int find(const char* id, bool isGroup) const;
@@ -32,6 +33,8 @@ public:
   int size() const noexcept { return static_cast<int>(principals_.size()); }
 
 private:
+  void checkIndex(int index) const;
+
   std::vector<std::unique_ptr<SecurityPrincipal>> principals_;
 };
 

@@ -69,6 +69,10 @@ TEST_F(PrincipalOrderTest, UsersComeFirstThenGroupsEachByTheNameShown) {
   EXPECT_EQ(add("S-1-5-21-8", false, nullptr), 3); // behind its equals
   EXPECT_EQ(add("S-1-5-21-9", true, "zed"), 8);
   EXPECT_EQ(add("S-1-5-21-10", false, "~"), 7);
+  // A name found only now leaves the list out of order; an added entry still
+  // goes in front of the first entry that it sorts before.
+  resolver.names["S-1-5-21-5"] = "a0";
+  EXPECT_EQ(add("S-1-5-21-11", false, "b"), 4);
 }
 
 TEST_F(PrincipalOrderTest, MatchesAStableSortOfRandomLists) {
