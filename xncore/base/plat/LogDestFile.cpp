@@ -172,14 +172,16 @@ bool LogDestFile::openFile() {
 }
 
 void LogDestFile::writeBanner(std::FILE* out) {
-  bannerDone_ = true;
   String text;
   {
     std::lock_guard<std::mutex> hold(banner().lock);
     text = banner().text;
   }
-  if (!text.isNull())
-    std::fprintf(out, "%s\n", wrapText(text.get(), bannerWidth, 0).get());
+  // A banner set after the first line still heads the rest of the file.
+  if (text.isNull())
+    return;
+  std::fprintf(out, "%s\n", wrapText(text.get(), bannerWidth, 0).get());
+  bannerDone_ = true;
 }
 
 void LogDestFile::closeFile() noexcept {

@@ -48,6 +48,12 @@ Thread::~Thread() {
                         static_cast<long long>(userTime_ / ticksPerMillisecond));
     log(LogSrc::levelDebug, "destroyed", detail);
   }
+  // A Native object that is detached goes at once: its thread must not
+  // find it again, nor delete it a second time as it ends.
+  if (CurrentThread::get() == this)
+    CurrentThread::set(nullptr);
+  if (nativeSelf.get() == this)
+    static_cast<void>(nativeSelf.release());
 }
 
 void Thread::run() {

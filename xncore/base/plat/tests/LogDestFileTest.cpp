@@ -104,12 +104,21 @@ TEST(LogDestFile, LinesCarryTimeHostAppProcessAndThePriorityOfTheirLevel) {
   EXPECT_TRUE(std::regex_match(lines[6], std::regex("\\d\\d:\\d\\d:\\d\\d\\.\\d{3} Src: compact")))
       << lines[6];
 
-  // Each new file starts with the banner again.
+  // Each new file starts with the banner again; a file begun without one
+  // takes it before its next line once there is one.
   std::string second = dir.path("second.log");
   dest.setPath(second.c_str());
   dest.write(0, "Src", "again");
-  plat::setLogBanner(nullptr);
   EXPECT_EQ(readLines(second).size(), bannerLines + 1);
+  plat::setLogBanner(nullptr);
+  std::string third = dir.path("third.log");
+  dest.setPath(third.c_str());
+  dest.write(0, "Src", "bare");
+  plat::setLogBanner(banner.c_str());
+  dest.write(0, "Src", "late");
+  dest.write(0, "Src", "once");
+  plat::setLogBanner(nullptr);
+  EXPECT_EQ(readLines(third).size(), bannerLines + 3);
 }
 
 TEST(LogDestFile, AWriteThatReachesTheSizeLimitClosesTheFileUntilTheLimitChanges) {

@@ -137,6 +137,9 @@ TEST(Thread, NativeThreadsAndDetachedThreadsCannotBeJoined) {
   while (destroyedLines() < 2)
     sleepMs(1);
   EXPECT_TRUE(deleted);
+
+  self->detach(); // a Native object goes at once and is made anew on demand
+  EXPECT_EQ(Thread::self()->state(), Thread::Native);
 }
 
 TEST(Thread, TerminateEndsAThreadThatWillNotStop) {

@@ -4,7 +4,6 @@
 
 #include "Capture.h"
 
-#include "plat/DeferredDeleter.h"
 #include "plat/TimerManager.h"
 
 #include <gtest/gtest.h>
@@ -167,22 +166,6 @@ TEST_F(TimerTest, ManagerStopsItsTimersWhenDestroyed) {
   EXPECT_FALSE(a.timer.isActive());
   EXPECT_EQ(&TimerManager::get(), &manager);
   EXPECT_DEATH({ TimerManager second; }, "nested \\|\\| !thrInst");
-}
-
-TEST_F(TimerTest, DeferredDeleteRunsAtTheNextProcess) {
-  struct Tracked {
-    explicit Tracked(bool& gone) : deleted(gone) {}
-    ~Tracked() { deleted = true; }
-    bool& deleted;
-  };
-  bool deleted = false;
-  deleteLater(new Tracked(deleted));
-  deleteLater<Tracked>(nullptr);
-  EXPECT_FALSE(deleted);
-  EXPECT_EQ(manager.nextTimeout(), 0);
-  manager.process();
-  EXPECT_TRUE(deleted);
-  EXPECT_EQ(manager.nextTimeout(), -1);
 }
 
 } // namespace

@@ -83,6 +83,7 @@ TEST_F(AppLoopTest, DeferredDeleteComesAfterTheNotificationAndBeforeTheNextMessa
   os::AppLoop loop;
   queue.post([] {
     plat::deleteLater(new Dialog);
+    plat::deleteLater<Dialog>(nullptr);
     heard.push_back("handler returns");
   });
   queue.post([] { os::AppLoop::quit(0); });
