@@ -118,19 +118,7 @@ void format(plat::DString& result, const char* text, const LocArg* arguments) {
   out.ensure(1);
   bool bad = false;
   const char* cursor = text ? text : "";
-  while (*cursor) {
-    const char* percent = std::strchr(cursor, '%');
-    if (!percent) {
-      out.append(cursor);
-      break;
-    }
-    out.append(cursor, static_cast<int>(percent - cursor));
-    cursor = percent + 1;
-    if (*cursor == '%') {
-      out.append("%");
-      ++cursor;
-      continue;
-    }
+  while ((cursor = plat::appendUntilMarker(out, cursor, '%'))) {
     const char* afterPercent = cursor;
     Conversion conversion;
     if (parseConversion(cursor, conversion) &&

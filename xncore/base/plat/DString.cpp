@@ -1,12 +1,12 @@
 #include "plat/DString.h"
 
-#include <cstdio>
-#include <cstring>
-#include <utility>
-
 #include "plat/Assertion.h"
 #include "plat/StringUtils.h"
 #include "plat/utf8.h"
+
+#include <cstdio>
+#include <cstring>
+#include <utility>
 
 namespace plat {
 
@@ -28,9 +28,13 @@ DString& DString::operator=(DString&& other) noexcept {
   return *this;
 }
 
-DString::~DString() { delete[] data_; }
+DString::~DString() {
+  delete[] data_;
+}
 
-int DString::length() const noexcept { return static_cast<int>(strLen(data_)); }
+int DString::length() const noexcept {
+  return static_cast<int>(strLen(data_));
+}
 
 void DString::ensure(int size) {
   if (size <= capacity_)
@@ -100,7 +104,9 @@ void DString::truncate(int newLength) noexcept {
     data_[newLength] = '\0';
 }
 
-String DString::takeString() noexcept { return String::adopt(takeBuffer()); }
+String DString::takeString() noexcept {
+  return String::adopt(takeBuffer());
+}
 
 char* DString::takeBuffer() noexcept {
   capacity_ = 0;
@@ -209,6 +215,21 @@ String wrapText(const char* text, int width, int hangingIndent) {
   DString wrapped(text);
   wrapped.wordWrap(width, hangingIndent);
   return text ? wrapped.takeString() : String();
+}
+
+const char* appendUntilMarker(DString& out, const char* text, char marker) {
+  for (;;) {
+    const char* found = std::strchr(text, marker);
+    if (!found) {
+      out.append(text);
+      return nullptr;
+    }
+    out.append(text, static_cast<int>(found - text));
+    if (found[1] != marker)
+      return found + 1;
+    out.append(found, 1);
+    text = found + 2;
+  }
 }
 
 } // namespace plat

@@ -70,4 +70,9 @@ String replaceAll(const char* text, const char* from, const char* to);
 /// Word wrapping in the default locale, for help texts and banners.
 String wrapText(const char* text, int width, int hangingIndent);
 
+/// Appends `text` up to its next lone `marker`, a doubled marker standing for
+/// one. Returns the character after that marker, or null when the text ended
+/// first: the scanning step of the small languages that mark their fields so.
+const char* appendUntilMarker(DString& out, const char* text, char marker);
+
 } // namespace plat

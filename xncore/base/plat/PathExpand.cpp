@@ -32,19 +32,7 @@ String pathExpand(const char* text, const PathVariables* variables, bool strict,
     return String(text);
   DString out("");
   const char* cursor = text;
-  while (*cursor) {
-    const char* dollar = std::strchr(cursor, '$');
-    if (!dollar) {
-      out.append(cursor);
-      break;
-    }
-    out.append(cursor, static_cast<int>(dollar - cursor));
-    cursor = dollar + 1;
-    if (*cursor == '$') {
-      out.append("$");
-      ++cursor;
-      continue;
-    }
+  while ((cursor = appendUntilMarker(out, cursor, '$'))) {
     const char* nameStart = cursor;
     const char* nameEnd;
     if (*cursor == '{') {
