@@ -1,6 +1,7 @@
 // Points, sizes and rectangles in 32-bit pixel coordinates: the geometry that
 // the toolkit and the pixel buffers share. A rectangle includes its top-left
-// corner and excludes its bottom-right one.
+// corner and excludes its bottom-right one. Regions store rectangles in 16-bit
+// coordinates (RgnRect); a pixel buffer's rectangle must survive that trip.
 #pragma once
 
 #include "plat/String.h"
@@ -33,6 +34,26 @@ struct Size {
   friend constexpr bool operator==(Size, Size) = default;
 };
 
+struct Rect;
+
+/// A rectangle in the 16-bit coordinates that a region stores; same conventions
+/// as Rect.
+struct RgnRect {
+  std::int16_t x1 = 0;
+  std::int16_t y1 = 0;
+  std::int16_t x2 = 0;
+  std::int16_t y2 = 0;
+
+  constexpr RgnRect() = default;
+  constexpr RgnRect(std::int16_t x1_, std::int16_t y1_, std::int16_t x2_, std::int16_t y2_)
+      : x1(x1_), y1(y1_), x2(x2_), y2(y2_) {}
+  /// Each coordinate clamped to -32768..32767.
+  constexpr explicit RgnRect(const Rect& r);
+
+  constexpr bool isEmpty() const { return x1 >= x2 || y1 >= y2; }
+  friend constexpr bool operator==(const RgnRect&, const RgnRect&) = default;
+};
+
 struct Rect {
   Point tl;
   Point br;
@@ -41,6 +62,8 @@ struct Rect {
   constexpr Rect(Point tl_, Point br_) : tl(tl_), br(br_) {}
   constexpr Rect(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2)
       : tl(x1, y1), br(x2, y2) {}
+  /// Exact: every 16-bit coordinate fits.
+  constexpr explicit Rect(const RgnRect& r) : tl(r.x1, r.y1), br(r.x2, r.y2) {}
   /// The rectangle of `size` with its top-left corner at `at`.
   static constexpr Rect at(Point at, Size size) {
     return {at, {at.x + size.width, at.y + size.height}};
@@ -71,6 +94,14 @@ struct Rect {
   }
   constexpr Rect translate(Point p) const { return {tl.translate(p), br.translate(p)}; }
 };
+
+constexpr std::int16_t clampToInt16(std::int32_t v) {
+  return static_cast<std::int16_t>(std::clamp<std::int32_t>(v, INT16_MIN, INT16_MAX));
+}
+
+constexpr RgnRect::RgnRect(const Rect& r)
+    : x1(clampToInt16(r.tl.x)), y1(clampToInt16(r.tl.y)), x2(clampToInt16(r.br.x)),
+      y2(clampToInt16(r.br.y)) {}
 
 /// "left,top to right,bottom".
 plat::String toString(const Rect& r);
