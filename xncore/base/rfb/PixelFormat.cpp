@@ -1,8 +1,9 @@
 #include "rfb/PixelFormat.h"
 
+#include "plat/BoundedAppend.h"
+
 #include <bit>
 #include <cctype>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -147,15 +148,12 @@ bool PixelFormat::parse(const char* text) noexcept {
 }
 
 void PixelFormat::print(char* buffer) const noexcept {
-  int n = std::snprintf(buffer, printSize, "depth %d (%d bpp)", depth, bpp);
-  auto append = [&](const char* format, auto... args) {
-    if (n >= 0 && static_cast<std::size_t>(n) < printSize)
-      n += std::snprintf(buffer + n, printSize - static_cast<std::size_t>(n), format, args...);
-  };
+  buffer[0] = '\0';
+  plat::appendBoundedFormat(buffer, printSize, "depth %d (%d bpp)", depth, bpp);
   if (bpp != 8)
-    append(" %s-endian", bigEndian ? "big" : "little");
+    plat::appendBoundedFormat(buffer, printSize, " %s-endian", bigEndian ? "big" : "little");
   if (!trueColour) {
-    append(" colour-map");
+    plat::appendBounded(buffer, printSize, " colour-map");
     return;
   }
   Channel channels[4] = {{'r', redMax, redShift},
@@ -170,16 +168,16 @@ void PixelFormat::print(char* buffer) const noexcept {
     for (const char* name : names) {
       if (std::strcmp(name, order) != 0)
         continue;
-      append(" %s", name);
+      plat::appendBoundedFormat(buffer, printSize, " %s", name);
       for (int i = 0; i < count; ++i)
-        append("%d", bits(channels[i].max));
+        plat::appendBoundedFormat(buffer, printSize, "%d", bits(channels[i].max));
       return;
     }
   }
-  append(" rgb max %d,%d,%d shift %d,%d,%d", redMax, greenMax, blueMax, redShift, greenShift,
-         blueShift);
+  plat::appendBoundedFormat(buffer, printSize, " rgb max %d,%d,%d shift %d,%d,%d", redMax, greenMax,
+                            blueMax, redShift, greenShift, blueShift);
   if (alphaMax)
-    append(" alpha max %d shift %d", alphaMax, alphaShift);
+    plat::appendBoundedFormat(buffer, printSize, " alpha max %d shift %d", alphaMax, alphaShift);
 }
 
 void PixelFormat::write(std::uint8_t* wire) const noexcept {
