@@ -1,9 +1,9 @@
 #include "plat/utf8.h"
 
-#include <cstring>
-
 #include "plat/DString.h"
 #include "plat/Exception.h"
+
+#include <cstring>
 
 namespace plat {
 
@@ -114,6 +114,8 @@ String repairUtf8(const char* begin, const char* end, int maxBytes) {
   if (!begin)
     return String();
   end = endOf(begin, end);
+  // Written at a known length: appending would rescan the string for its end
+  // at each piece, which makes long texts quadratic.
   DString out;
   out.ensure(static_cast<int>(end - begin) + 1);
   std::size_t length = 0;
@@ -131,11 +133,11 @@ String repairUtf8(const char* begin, const char* end, int maxBytes) {
     }
     if (maxBytes >= 0 && length + pieceLength > static_cast<std::size_t>(maxBytes))
       break;
-    out.append(piece, static_cast<int>(pieceLength));
+    out.ensure(static_cast<int>(length + pieceLength) + 1);
+    std::memcpy(out.data() + length, piece, pieceLength);
     length += pieceLength;
   }
-  if (out.isNull())
-    return String("");
+  out.data()[length] = '\0';
   return out.takeString();
 }
 
