@@ -1,5 +1,6 @@
 #include "loc/Localize.h"
 
+#include "loc/DefaultLocales.h"
 #include "loc/LocaleNames.h"
 #include "loc/LocaleParameter.h"
 #include "plat/Assertion.h"
@@ -42,6 +43,23 @@ plat::String catalogFormat(const char* key, const char* argument, const char* fi
 
 [[maybe_unused]] const bool readerInstalled =
     (plat::setCatalogReader({&catalogText, &catalogFormat}), true);
+
+} // namespace
+
+// The tables of the base's own texts, which this library compiles.
+namespace catalog {
+void plat();
+void loc();
+} // namespace catalog
+
+namespace {
+
+// The base's texts are in place before the first lookup, whether or not the
+// linker kept the static objects of their tables that register them too.
+void registerBaseCatalogs() {
+  static const bool registered = (catalog::plat(), catalog::loc(), true);
+  (void)registered;
+}
 
 } // namespace
 
@@ -149,12 +167,13 @@ void Localize::paramChanged(plat::ConfigParameter*, int) {
 }
 
 void Localize::update() {
+  registerBaseCatalogs();
   plat::String value = localeParameter.getValueString();
   std::vector<plat::String> locales;
-  // The system's own locales join here when "Locale" is empty, once they can
-  // be read; until then such a list holds only the fallback.
   if (*value.get())
     parseLocaleList(value.get(), locales, nullptr, nullptr);
+  else
+    defaultLocales(locales);
   if (std::find(locales.begin(), locales.end(), "en_US") == locales.end())
     locales.emplace_back("en_US");
   Lock lock(mutex());
@@ -227,6 +246,7 @@ Translation* Localize::find(TransMap& map, const char* key) {
 
 const char* get(const char* key, const char* file, int line, bool raw) {
   XN_ASSERT(key);
+  registerBaseCatalogs();
   Localize& localize = Localize::instance();
   Lock lock(Localize::mutex());
   if (Translation* translation = localize.find(TransMap::current(), key))
@@ -237,6 +257,7 @@ const char* get(const char* key, const char* file, int line, bool raw) {
 
 const char* getOptional(const char* key, bool raw) {
   XN_ASSERT(key);
+  registerBaseCatalogs();
   Localize& localize = Localize::instance();
   Lock lock(Localize::mutex());
   Translation* translation = localize.find(TransMap::current(), key);
@@ -245,6 +266,7 @@ const char* getOptional(const char* key, bool raw) {
 
 const char* getPlural(const char* key, int count, const char* file, int line) {
   XN_ASSERT(key);
+  registerBaseCatalogs();
   Localize& localize = Localize::instance();
   Lock lock(Localize::mutex());
   for (const plat::String& locale : TransMap::current().locales()) {
