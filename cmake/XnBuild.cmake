@@ -52,16 +52,20 @@ function(xn_library name)
   endif()
 endfunction()
 
-# xn_test(<name> SOURCES ... DEPS ... [LABELS ...])
+# xn_test(<name> SOURCES ... DEPS ... [LABELS ...] [ORDINARY_LINK])
 #
 # A GoogleTest executable whose cases CTest lists one by one. Tests that cross
-# threads carry the label "threads", which the tsan preset runs.
+# threads carry the label "threads", which the tsan preset runs. ORDINARY_LINK
+# links the libraries as a plain static link would, keeping only what is
+# referenced, rather than whole.
 function(xn_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "ORDINARY_LINK" "" "SOURCES;DEPS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_DEPS} GTest::gtest GTest::gmock GTest::gtest_main
                                         xn_options)
-  xn_executable(${name})
+  if(NOT ARG_ORDINARY_LINK)
+    xn_executable(${name})
+  endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 30
                        PROPERTIES LABELS "${ARG_LABELS}")
 endfunction()

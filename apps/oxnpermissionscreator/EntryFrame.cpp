@@ -2,6 +2,7 @@
 
 #include "oxnpermissionscreator/CommandLine.h"
 #include "oxnpermissionscreator/FeaturePermissions.h"
+#include "oxnpermissionscreator/TextKeys.h"
 
 #include "plat/Configuration.h"
 #include "plat/Exception.h"
@@ -37,13 +38,21 @@ int runGuarded(const std::function<int()>& body) {
   }
 }
 
+void startUp(int argc, char** argv) {
+  setProcessArguments(fetchProcessArguments(argc, argv));
+  product::setProductVersion(displayVersion, numericVersion);
+  product::productInit(processArguments()[0], applicationName,
+                       textkey::oxnpermissionscreator_app_name_r, nullptr, true, true);
+  applyCommandLine();
+  defineFeaturePermissions();
+}
+
 int runProgram(int argc, char** argv) {
   return runGuarded([argc, argv] {
-    setProcessArguments(fetchProcessArguments(argc, argv));
-    product::setProductVersion(displayVersion, numericVersion);
-    product::productInit(processArguments()[0], applicationName, nullptr, true);
-    applyCommandLine();
-    defineFeaturePermissions();
+    startUp(argc, argv);
+    // The toolkit's stages follow here: the application loop, the toolkit's
+    // root and its element factories, the dialog, its loop; then the dialog
+    // and the loop go, in that order.
     return exitSuccess;
   });
 }

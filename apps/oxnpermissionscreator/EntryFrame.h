@@ -18,6 +18,12 @@ inline constexpr const char* numericVersion = "7.19.0.13";
 /// Other exceptions are not caught here.
 int runGuarded(const std::function<int()>& body);
 
+/// The start-up before the toolkit, in order: the argument vector, the
+/// product version, product initialisation (with file logging and the stored
+/// configuration), the command line (help ends the process there) and the
+/// feature permissions. Raises what goes wrong.
+void startUp(int argc, char** argv);
+
 /// The whole program: start-up and run, inside the handler. Returns the exit code.
 int runProgram(int argc, char** argv);
 

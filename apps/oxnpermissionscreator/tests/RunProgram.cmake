@@ -5,8 +5,21 @@
 #         [-DSAVE_STDOUT=<file> -DCHECKER=<program taking the file>]
 #         [-DSTATE_HOME=<directory, emptied and made HOME and XDG_STATE_HOME>]
 #         [-DEXPECT_FILE=<path> -DEXPECT_FILE_CONTENT=<regex>]
+#         [-DENVIRONMENT=<NAME=value settings separated by |>]
 #         -P RunProgram.cmake
+#
+# The locale variables start neutral, so that the program speaks English
+# unless the test's ENVIRONMENT or arguments choose otherwise.
 string(REPLACE "|" ";" arguments "${ARGS}")
+foreach(variable LANGUAGE LC_ALL LC_MESSAGES)
+  unset(ENV{${variable}})
+endforeach()
+set(ENV{LANG} C.UTF-8)
+string(REPLACE "|" ";" settings "${ENVIRONMENT}")
+foreach(setting IN LISTS settings)
+  string(REGEX MATCH "^([^=]+)=(.*)$" matched "${setting}")
+  set(ENV{${CMAKE_MATCH_1}} "${CMAKE_MATCH_2}")
+endforeach()
 if(DEFINED STATE_HOME)
   file(REMOVE_RECURSE ${STATE_HOME})
   file(MAKE_DIRECTORY ${STATE_HOME})

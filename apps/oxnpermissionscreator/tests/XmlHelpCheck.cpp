@@ -29,7 +29,9 @@ int main(int argc, char** argv) {
 
   try {
     // The defaults that the program's start gives the log.
-    product::initLogDefaults(nullptr, app::applicationName);
+    product::initLogDefaults(nullptr, "$LOCAL_APPDATA_COMPANY",
+                             (std::string(app::applicationName) + ".log").c_str(),
+                             app::applicationName);
     plat::Configuration read("Read", nullptr);
     plat::readXmlConfig(read, text.c_str(), nullptr);
     plat::Configuration& global = plat::Configuration::global();

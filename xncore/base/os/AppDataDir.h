@@ -16,8 +16,17 @@ enum class AppDataScope {
 /// profile known folder" when there is none.
 plat::String knownFolderPath(AppDataScope scope);
 
+/// Whether this process runs with the rights of the machine's administrators.
+bool processIsAdministrator();
+
 /// "<known folder>/<company>", with "-Service" after the company for the
-/// service scope; created when `create` is set (an existing one is fine).
-plat::String getAppDataDir(AppDataScope scope, const char* company, bool create);
+/// service scope. A null `company` is the application's (getCompany). With
+/// `serviceNeedsAdmin`, the service scope falls back to the user's local one
+/// for a process without administrator rights. `create` makes the directory:
+/// for the service scope as administrator one that only administrators may
+/// use (anything else in its place is renamed to "<dir>.bad" first), in every
+/// other case a plain one, where an existing directory is fine.
+plat::String getAppDataDir(AppDataScope scope, const char* company, bool create,
+                           bool serviceNeedsAdmin);
 
 } // namespace os

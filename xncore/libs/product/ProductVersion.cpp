@@ -36,4 +36,15 @@ const char* productBuildVersion() noexcept {
   return storedBuildVersion().get();
 }
 
+void giveProductVersionDefaults() {
+  if (storedVersion().isNull())
+    storedVersion() = plat::String("0.1");
+  if (storedBuildVersion().isNull())
+    storedBuildVersion() = storedVersion();
+}
+
+const char* productBuildDate() noexcept {
+  return __DATE__ " " __TIME__;
+}
+
 } // namespace product

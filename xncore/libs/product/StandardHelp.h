@@ -1,10 +1,8 @@
 // The help function that the program hands to the command line: "-help"
-// prints the product's version line and the parameter list, "-help all" adds
+// prints the product's full information text and the parameter list, "-help all" adds
 // advanced parameters, log names and destinations, and "-help xml" writes the
 // parameters as an XML document. Either way the process then ends with 0.
 #pragma once
-
-#include "plat/String.h"
 
 #include <cstdio>
 
@@ -20,8 +18,5 @@ namespace product {
 
 /// What standardHelp shows for `mode`, written to `out`.
 void writeStandardHelp(int mode, const plat::Configuration& configuration, std::FILE* out);
-
-/// "<application> <version> x64 (<build date>)", with no double blanks.
-plat::String versionLine();
 
 } // namespace product

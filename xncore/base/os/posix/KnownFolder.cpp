@@ -3,6 +3,7 @@
 #include "plat/Path.h"
 
 #include <stdlib.h>
+#include <unistd.h>
 
 namespace os {
 
@@ -21,6 +22,11 @@ plat::String xdgDirectory(const char* variable, const char* belowHome) {
 }
 
 } // namespace
+
+// Root stands for the machine's administrators.
+bool processIsAdministrator() {
+  return geteuid() == 0;
+}
 
 plat::String knownFolderPath(AppDataScope scope) {
   switch (scope) {

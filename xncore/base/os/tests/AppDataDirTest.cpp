@@ -1,6 +1,7 @@
 // The data folders of each scope, as the environment of the user directs them.
 #include "os/AppDataDir.h"
 
+#include "os/AppInfo.h"
 #include "os/Environment.h"
 #include "plat/Exception.h"
 
@@ -31,13 +32,24 @@ TEST(AppDataDir, ScopesFollowTheXdgVariablesOrTheHomeDirectory) {
       os::setEnvironmentVariable("XDG_STATE_HOME", c.stateHome);
     else
       unsetenv("XDG_STATE_HOME");
-    EXPECT_STREQ(os::getAppDataDir(c.scope, "Ostrand", false).get(), c.expected)
+    EXPECT_STREQ(os::getAppDataDir(c.scope, "Ostrand", false, false).get(), c.expected)
         << (c.stateHome ? c.stateHome : "<unset>");
   }
 
   unsetenv("HOME");
   unsetenv("XDG_STATE_HOME");
   EXPECT_THROW(os::knownFolderPath(os::AppDataScope::UserLocal), plat::Exception);
+}
+
+TEST(AppDataDir, TakesTheApplicationsCompanyAndLeavesTheServiceScopeToAdministrators) {
+  os::setAppInfo("tool", "Maker", "oxn", nullptr, nullptr);
+  os::setEnvironmentVariable("XDG_STATE_HOME", "/state");
+  EXPECT_STREQ(os::getAppDataDir(os::AppDataScope::UserLocal, nullptr, false, false).get(),
+               "/state/Maker");
+  EXPECT_STREQ(os::getAppDataDir(os::AppDataScope::Service, nullptr, false, false).get(),
+               "/var/lib/Maker-Service");
+  EXPECT_STREQ(os::getAppDataDir(os::AppDataScope::Service, nullptr, false, true).get(),
+               os::processIsAdministrator() ? "/var/lib/Maker-Service" : "/state/Maker");
 }
 
 } // namespace

@@ -1,13 +1,17 @@
-// Product initialisation: the data directory in the environment and the log
-// defaults, which a command line then overrides.
+// Product initialisation: who the program is, the data directory in the
+// environment, the log defaults that a command line then overrides, the
+// stored configuration, and the banner that heads the log file.
 #include "product/ProductInit.h"
 
+#include "os/AppInfo.h"
 #include "plat/Configuration.h"
 #include "plat/FileSystem.h"
 #include "plat/LogDest.h"
 #include "plat/LogDestFile.h"
 #include "plat/LogSrc.h"
 #include "plat/tests/TempDir.h"
+#include "product/ProductInfo.h"
+#include "product/ProductVersion.h"
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -16,15 +20,39 @@
 
 namespace {
 
-TEST(ProductInit, PublishesTheDataDirectoryAndSetsTheLogDefaultsBelowTheCommandLine) {
+plat::Configuration* loadedInto = nullptr;
+int loads = 0;
+
+// Stands for the settings store: a stored preference for "Log".
+void loadStoredLog(plat::Configuration* target) {
+  loadedInto = target;
+  ++loads;
+  plat::Configuration::global().setParam("Log", "*:file:100", plat::priorityPreference);
+}
+
+TEST(ProductInit, SaysWhoTheProgramIsAndPublishesTheDataDirectory) {
   plat::test::TempDir dir;
   ASSERT_EQ(setenv("XDG_STATE_HOME", dir.path().c_str(), 1), 0);
-  product::productInit("/opt/bin/tool.exe", nullptr, nullptr, true);
+  product::productInit("/opt/bin/tool.exe", nullptr, nullptr, nullptr, false, false);
 
+  EXPECT_STREQ(os::getApp(false), "/opt/bin/tool.exe");
+  EXPECT_STREQ(os::getCompany(false), "Ostrand");
+  EXPECT_STREQ(os::getPathComp(false), "oxn");
   std::string company = dir.path("Ostrand");
   EXPECT_STREQ(getenv("LOCAL_APPDATA_COMPANY"), company.c_str());
   EXPECT_STREQ(getenv("LOCALAPPDATA"), dir.path().c_str());
   EXPECT_TRUE(plat::isDirectory(company.c_str()));
+  // Without versions of its own the product is "0.1" on both counts.
+  EXPECT_STREQ(product::productVersion(), "0.1");
+  EXPECT_STREQ(product::productBuildVersion(), "0.1");
+}
+
+TEST(ProductInit, SetsTheLogDefaultsBelowTheCommandLineAndHeadsTheFileWithTheFullInfo) {
+  plat::test::TempDir dir;
+  ASSERT_EQ(setenv("XDG_STATE_HOME", dir.path().c_str(), 1), 0);
+  product::productInit("/opt/bin/tool.exe", nullptr, nullptr, nullptr, true, false);
+
+  std::string company = dir.path("Ostrand");
   plat::Configuration& global = plat::Configuration::global();
   for (auto [name, value] :
        {std::pair{"Log", "*:stderr:10"}, std::pair{"LogDir", "$LOCAL_APPDATA_COMPANY"},
@@ -40,8 +68,27 @@ TEST(ProductInit, PublishesTheDataDirectoryAndSetsTheLogDefaultsBelowTheCommandL
   const char* arguments[] = {"-Log=*:file:100", nullptr};
   global.parseArgs(arguments, nullptr);
   EXPECT_EQ(plat::findLogSrc("ConfigParameter")->level(), 100);
-  EXPECT_NE(plat::test::TempDir::read(company + "/tool.log").find("ConfigParameter: set Log"),
-            std::string::npos);
+  std::string content = plat::test::TempDir::read(company + "/tool.log");
+  std::string banner = std::string(product::fullInfo().get()) + "\n";
+  EXPECT_EQ(content.compare(0, banner.size(), banner), 0) << content;
+  EXPECT_NE(content.find("ConfigParameter: set Log", banner.size()), std::string::npos);
+}
+
+TEST(ProductInit, ReadsTheStoredConfigurationOnlyWhenAsked) {
+  plat::test::TempDir dir;
+  ASSERT_EQ(setenv("XDG_STATE_HOME", dir.path().c_str(), 1), 0);
+  product::productInit("tool", nullptr, nullptr, nullptr, false, true);
+  EXPECT_EQ(loads, 0) << "no store, nothing read";
+
+  product::setStoredConfigurationLoader(loadStoredLog);
+  product::productInit("tool", nullptr, nullptr, nullptr, false, false);
+  EXPECT_EQ(loads, 0);
+  product::productInit("tool", nullptr, nullptr, nullptr, false, true);
+  EXPECT_EQ(loads, 1);
+  EXPECT_EQ(loadedInto, nullptr) << "the global group";
+  // The stored preference stands above the default that initialisation gave.
+  EXPECT_STREQ(plat::Configuration::global().getString("Log").get(), "*:file:100");
+  product::setStoredConfigurationLoader(nullptr);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The help that programs print: the version line, then the group's help or
+// The help that programs print: the product's full information text, then the group's help or
 // its XML document, and the end of the process.
 #include "product/StandardHelp.h"
 
@@ -8,6 +8,7 @@
 #include "plat/Configuration.h"
 #include "plat/IntParameter.h"
 #include "plat/XmlConfig.h"
+#include "product/ProductInfo.h"
 #include "product/ProductVersion.h"
 
 #include <gmock/gmock.h>
@@ -31,18 +32,8 @@ protected:
   plat::IntParameter expert{"Expert", "Shown with all.", 2, true, &group};
 };
 
-TEST_F(StandardHelp, VersionLineNamesProductVersionAndBuild) {
-  EXPECT_THAT(std::string(product::versionLine().get()),
-              testing::MatchesRegex(
-                  "oxnpermissionscreator 7\\.19\\.0 \\(r13\\) x64 \\([A-Z][a-z]{2} [0-9]{1,2} "
-                  "[0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}\\)"));
-  product::setProductVersion(nullptr, nullptr);
-  EXPECT_THAT(std::string(product::versionLine().get()),
-              testing::StartsWith("oxnpermissionscreator 0.1 x64 ("));
-}
-
 TEST_F(StandardHelp, EachModeWritesItsTextAndEndsTheProcess) {
-  std::string head = std::string(product::versionLine().get()) + "\n\nParameters can be turned on";
+  std::string head = std::string(product::fullInfo().get()) + "\n\nParameters can be turned on";
   std::string ordinary = helpText(plat::Configuration::helpPlain);
   std::string all = helpText(plat::Configuration::helpAll);
   EXPECT_EQ(ordinary.rfind(head, 0), 0u);
