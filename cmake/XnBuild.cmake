@@ -104,11 +104,15 @@ endfunction()
 # xn_catalog(<target> [NAME <catalog>] [PO_DIR <dir>] [KEYS_ONLY | TABLE_ONLY])
 #
 # The translation catalog of a library, from one .po file per language in
-# PO_DIR (default: po/ beside the CMakeLists). The catalog generator checks the
-# files and writes the header <library>/TextKeys.h of key constants, on the
+# PO_DIR (default: po/ beside the CMakeLists). msgfmt -c and the catalog
+# generator check the files (conventions: xncore/base/loc/generator/TRANSLATORS.md),
+# and the generator writes the header <library>/TextKeys.h of key constants, on the
 # target's include path, and the table that registers the texts. The base
 # library, which the translations build on, takes only the header
 # (KEYS_ONLY), and the translations library compiles its table (TABLE_ONLY).
+find_program(XN_MSGFMT msgfmt REQUIRED)
+set(XN_MSGFMT_CHECK ${CMAKE_CURRENT_LIST_DIR}/XnMsgfmtCheck.cmake)
+
 function(xn_catalog target)
   cmake_parse_arguments(ARG "KEYS_ONLY;TABLE_ONLY" "NAME;PO_DIR" "" ${ARGN})
   if(NOT ARG_NAME)
@@ -140,9 +144,10 @@ function(xn_catalog target)
   endif()
   add_custom_command(
     OUTPUT ${outputs}
+    COMMAND ${CMAKE_COMMAND} -DMSGFMT=${XN_MSGFMT} -P ${XN_MSGFMT_CHECK} ${po_files}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${out_dir}/include/${library_dir}
     COMMAND $<TARGET_FILE:locgen> ${arguments} ${po_files}
-    DEPENDS locgen ${po_files}
+    DEPENDS locgen ${XN_MSGFMT_CHECK} ${po_files}
     COMMENT "Generating the translation catalog ${ARG_NAME}"
     VERBATIM)
   target_sources(${target} PRIVATE ${outputs})
