@@ -1,0 +1,19 @@
+#include "mui/headless/MuiHeadless.h"
+
+#include "mui/headless/MuDialogHeadless.h"
+#include "mui/headless/MuLayoutHeadless.h"
+#include "plat/Assertion.h"
+
+namespace mui {
+
+MuiHeadless& MuiHeadless::instance() {
+  return *XN_CHECKED_CAST(MuiHeadless, &Mui::instance());
+}
+
+void installHeadlessBinding(MuiHeadless& root) {
+  Mui::setInstance(&root);
+  muDialogFactory = &MuDialogHeadless::make;
+  muLayoutFactory = &MuLayoutHeadless::make;
+}
+
+} // namespace mui
