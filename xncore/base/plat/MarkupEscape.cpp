@@ -1,38 +1,55 @@
 #include "plat/MarkupEscape.h"
 
-#include "plat/DString.h"
 #include "plat/utf8.h"
+
+#include <cstring>
 
 namespace plat {
 
+namespace {
+
+const char* entityOf(char ch) {
+  switch (ch) {
+  case '&':
+    return "&amp;";
+  case '<':
+    return "&lt;";
+  case '>':
+    return "&gt;";
+  case '"':
+    return "&quot;";
+  case '\'':
+    return "&apos;";
+  default:
+    return nullptr;
+  }
+}
+
+} // namespace
+
+// Sized first and written once, so that escaping stays linear in the text.
 String escapeMarkup(const char* text) {
   if (!text)
     return String();
   String valid = repairUtf8(text);
-  DString out;
-  out.ensure(1);
+  std::size_t size = 0;
   for (const char* cursor = valid.get(); *cursor; ++cursor) {
-    switch (*cursor) {
-    case '&':
-      out.append("&amp;");
-      break;
-    case '<':
-      out.append("&lt;");
-      break;
-    case '>':
-      out.append("&gt;");
-      break;
-    case '"':
-      out.append("&quot;");
-      break;
-    case '\'':
-      out.append("&apos;");
-      break;
-    default:
-      out.append(cursor, 1);
+    const char* entity = entityOf(*cursor);
+    size += entity ? std::strlen(entity) : 1;
+  }
+  char* out = new char[size + 1];
+  char* end = out;
+  for (const char* cursor = valid.get(); *cursor; ++cursor) {
+    if (const char* entity = entityOf(*cursor)) {
+      std::size_t length = std::strlen(entity);
+      std::memcpy(end, entity, length);
+      end += length;
+    } else {
+      *end++ = *cursor;
     }
   }
-  return out.takeString();
+  *end = '\0';
+  return String::adopt(out);
 }
 
 } // namespace plat

@@ -370,7 +370,11 @@ bool XmlParser::readEndTag() {
 }
 
 void XmlParser::addText(const char* text) {
-  if (!xmlKeepWhitespace()) {
+  using Whitespace = XmlDocument::Whitespace;
+  bool keep = document_.whitespace_ == Whitespace::processWide
+                  ? xmlKeepWhitespace()
+                  : document_.whitespace_ == Whitespace::keep;
+  if (!keep) {
     String condensed = condense(text);
     if (*condensed.get())
       open_.back()->nodes_.push_back({nullptr, std::move(condensed)});

@@ -86,6 +86,11 @@ public:
   bool parse(const char* text, std::size_t length, const char* rootName);
   /// As above, up to the NUL.
   bool parse(const char* text, const char* rootName);
+  /// Whether this document's parses keep whitespace in text, whatever the
+  /// process-wide switch says; for readers on any thread.
+  void setKeepWhitespace(bool keep) noexcept {
+    whitespace_ = keep ? Whitespace::keep : Whitespace::drop;
+  }
 
   /// The root element after a successful parse, otherwise null.
   const XmlElement* root() const noexcept { return root_; }
@@ -99,6 +104,7 @@ private:
   std::vector<std::unique_ptr<XmlElement>> elements_;
   const XmlElement* root_ = nullptr;
   XmlError error_;
+  enum class Whitespace { processWide, keep, drop } whitespace_ = Whitespace::processWide;
 };
 
 /// Whether text keeps its whitespace (process-wide, default false). When
