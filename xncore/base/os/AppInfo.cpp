@@ -34,7 +34,12 @@ void store(plat::String& field, const char* value) {
     field = plat::String(value);
 }
 
-const char* orEmpty(const plat::String& field) {
+// The value of `field`; an unset one reads as "" or, unless `emptyIfUnset`,
+// fails the assertion `expression`.
+const char* valueOf(const plat::String& field, bool emptyIfUnset, const char* expression,
+                    int line) {
+  if (field.isNull() && !emptyIfUnset)
+    plat::assertionFailed(plat::AssertionFail(expression, __FILE__, line));
   return field.isNull() ? "" : field.get();
 }
 
@@ -53,27 +58,19 @@ const char* withoutRegisteredMark(const char* translated) {
 } // namespace
 
 const char* getApp(bool emptyIfUnset) {
-  const char* app = identity().app.get();
-  XN_ASSERT(emptyIfUnset || app);
-  return orEmpty(identity().app);
+  return valueOf(identity().app, emptyIfUnset, "emptyIfUnset || app", __LINE__);
 }
 
 const char* getCompany(bool emptyIfUnset) {
-  const char* company = identity().company.get();
-  XN_ASSERT(emptyIfUnset || company);
-  return orEmpty(identity().company);
+  return valueOf(identity().company, emptyIfUnset, "emptyIfUnset || company", __LINE__);
 }
 
 const char* getGroup(bool emptyIfUnset) {
-  const char* group = identity().group.get();
-  XN_ASSERT(emptyIfUnset || group);
-  return orEmpty(identity().group);
+  return valueOf(identity().group, emptyIfUnset, "emptyIfUnset || group", __LINE__);
 }
 
 const char* getPathComp(bool emptyIfUnset) {
-  const char* pathComp = identity().pathComp.get();
-  XN_ASSERT(emptyIfUnset || pathComp);
-  return orEmpty(identity().pathComp);
+  return valueOf(identity().pathComp, emptyIfUnset, "emptyIfUnset || pathComp", __LINE__);
 }
 
 const char* getDisplayName(bool emptyIfUnset) {

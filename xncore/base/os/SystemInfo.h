@@ -13,9 +13,4 @@ plat::String operatingSystemName();
 /// 32-bit process on a 64-bit system.
 plat::String processArchitectureWord();
 
-/// Hardens the process where the system offers it: modules are loaded only
-/// from the system's own places, and a refused module brings up no dialog.
-/// Where it offers nothing, says so on the log source "ProcessMitigation".
-void applyProcessMitigations();
-
 } // namespace os

@@ -5,7 +5,7 @@
 #include "os/AppInfo.h"
 #include "os/Environment.h"
 #include "os/ModuleFile.h"
-#include "os/SystemInfo.h"
+#include "os/ProcessMitigation.h"
 #include "plat/Configuration.h"
 #include "plat/DString.h"
 #include "plat/Exception.h"

@@ -1,5 +1,7 @@
 #include "loc/LocaleNames.h"
 
+#include "loc/DefaultLocales.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -74,6 +76,31 @@ TEST(LocaleNames, PluralForms) {
     EXPECT_STREQ(loc::pluralForm(c.locale, 0), c.zero) << c.locale;
     EXPECT_STREQ(loc::pluralForm(c.locale, 1), c.one) << c.locale;
     EXPECT_STREQ(loc::pluralForm(c.locale, 2), c.two) << c.locale;
+  }
+}
+
+TEST(LocaleNames, DesktopLocalesComeFromTheLocaleOfMessagesAndTheLanguagePreferences) {
+  struct Case {
+    loc::LocaleEnvironment environment; // LANGUAGE, LC_ALL, LC_MESSAGES, LANG
+    const char* expected;
+  };
+  for (const Case& c : {
+           Case{{nullptr, nullptr, nullptr, nullptr}, ""},
+           Case{{nullptr, nullptr, nullptr, "de_DE.UTF-8"}, "de_DE"},
+           Case{{nullptr, nullptr, "fr_CA.UTF-8", "de_DE.UTF-8"}, "fr_CA"},
+           Case{{nullptr, "es_ES.UTF-8", "fr_FR.UTF-8", "de_DE.UTF-8"}, "es_ES"},
+           Case{{nullptr, "", "", "pt"}, "pt_BR"},
+           Case{{"zh_CN:de", nullptr, nullptr, "en_GB.UTF-8"}, "zh_CN:de_DE:en_GB"},
+           Case{{"de:de_AT", nullptr, nullptr, "de_DE.UTF-8@euro"}, "de_DE:de_AT"},
+           // A neutral locale asks for no language, and LANGUAGE is then not read.
+           Case{{"de", nullptr, nullptr, "C.UTF-8"}, ""},
+           Case{{"de", "POSIX", nullptr, "fr_FR"}, ""},
+           Case{{"de", nullptr, "C", "fr_FR"}, ""},
+       }) {
+    std::vector<plat::String> list;
+    loc::appendEnvironmentLocales(c.environment, list);
+    EXPECT_EQ(joined(list), c.expected) << (c.environment.language ? c.environment.language : "-")
+                                        << " " << (c.environment.lang ? c.environment.lang : "-");
   }
 }
 

@@ -4,6 +4,7 @@
 #include "plat/tests/Capture.h"
 
 #include <gtest/gtest.h>
+#include <stdlib.h>
 
 #include <string>
 #include <thread>
@@ -157,6 +158,18 @@ TEST_F(LocalizeDeathTest, MisuseEndsTheProcess) {
         text("loctest_nowhere");
       },
       "Missing translation for \"loctest_nowhere\" \\(here.cpp:12\\)\nAborting");
+}
+
+TEST_F(Localize, AnEmptyLocaleTakesTheDesktopsLanguagesThenEnglish) {
+  ASSERT_EQ(setenv("LANGUAGE", "fr", 1), 0);
+  ASSERT_EQ(setenv("LANG", "de_DE.UTF-8", 1), 0);
+  loc::Localize::instance().update();
+  EXPECT_EQ(std::string(loc::Localize::instance().localeList().get()), "fr_FR:de_DE:en_US");
+  EXPECT_EQ(processLocales(), "fr_FR:fr:de_DE:de:en_US:en");
+
+  // A locale chosen for the program stands over the desktop's.
+  useLocale("es_ES");
+  EXPECT_EQ(std::string(loc::Localize::instance().localeList().get()), "es_ES:en_US");
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "os/SystemInfo.h"
 
 #include "plat/DString.h"
-#include "plat/LogSrc.h"
 
 #include <sys/utsname.h>
 
@@ -11,8 +10,6 @@
 namespace os {
 
 namespace {
-
-plat::LogSrc mitigationLog("ProcessMitigation");
 
 // The value of `key` in an os-release file: KEY=value or KEY="value".
 plat::String osReleaseValue(const char* path, const char* key) {
@@ -60,12 +57,6 @@ plat::String processArchitectureWord() {
   if (std::strcmp(machine, "x86_64") == 0)
     return plat::String(wide ? "x64" : "WOW64");
   return plat::String(*machine ? machine : "unknown");
-}
-
-void applyProcessMitigations() {
-  // Shared libraries come from the dynamic loader's own search order, which
-  // a program cannot narrow for itself, and there is no signature policy.
-  mitigationLog.info("Not enabling RestrictedMode (not available on Linux)");
 }
 
 } // namespace os
