@@ -3,9 +3,11 @@
 #   cmake -DPROGRAM=<path> -DARGS=<arguments separated by |> -DEXPECT_EXIT=<code>
 #         [-DEXPECT_STDOUT=<regex>] [-DEXPECT_STDERR=<regex>]
 #         [-DSAVE_STDOUT=<file> -DCHECKER=<program taking the file>]
-#         [-DSTATE_HOME=<directory, emptied and made HOME and XDG_STATE_HOME>]
+#         [-DSTATE_HOME=<directory, emptied and made HOME and XDG_STATE_HOME,
+#                     with XDG_CONFIG_HOME below it>]
 #         [-DEXPECT_FILE=<path> -DEXPECT_FILE_CONTENT=<regex>]
 #         [-DENVIRONMENT=<NAME=value settings separated by |>]
+#         [-DSETTINGS=<the user's stored settings, lines separated by |>]
 #         -P RunProgram.cmake
 #
 # The locale variables start neutral, so that the program speaks English
@@ -25,6 +27,11 @@ if(DEFINED STATE_HOME)
   file(MAKE_DIRECTORY ${STATE_HOME})
   set(ENV{HOME} ${STATE_HOME})
   set(ENV{XDG_STATE_HOME} ${STATE_HOME})
+  set(ENV{XDG_CONFIG_HOME} ${STATE_HOME}/config)
+endif()
+if(DEFINED SETTINGS)
+  string(REPLACE "|" "\n" settings_text "${SETTINGS}")
+  file(WRITE ${STATE_HOME}/config/Ostrand/oxnpermissionscreator.conf "${settings_text}\n")
 endif()
 execute_process(COMMAND ${PROGRAM} ${arguments}
                 RESULT_VARIABLE code OUTPUT_VARIABLE out ERROR_VARIABLE err)

@@ -16,6 +16,7 @@
 #include "plat/Path.h"
 #include "product/ProductInfo.h"
 #include "product/ProductVersion.h"
+#include "xnutil/ConfigStoreReg.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,8 +26,6 @@ namespace product {
 bool isServiceProcess = false;
 
 namespace {
-
-StoredConfigurationLoader storedConfigurationLoader = nullptr;
 
 // The program's data directory goes into the environment as
 // "LOCAL_APPDATA_COMPANY", its parent as "LOCALAPPDATA"; empty when there is
@@ -45,10 +44,6 @@ void publishDataDirectory() {
 }
 
 } // namespace
-
-void setStoredConfigurationLoader(StoredConfigurationLoader loader) noexcept {
-  storedConfigurationLoader = loader;
-}
 
 void productInit(const char* argv0, const char* appName, const char* displayNameKey,
                  const char* logSpec, bool enableFileLog, bool loadConfiguration) {
@@ -91,11 +86,10 @@ void initLogDefaults(const char* logSpec, const char* logDir, const char* logFil
   plat::logParameter.setFromString(logSpec ? logSpec : "*:stderr:10", plat::priorityDefault);
 }
 
-bool loadStoredConfiguration(plat::Configuration* target) {
-  if (!storedConfigurationLoader)
-    return false;
-  storedConfigurationLoader(target);
-  return true;
+void loadStoredConfiguration(plat::Configuration* target) {
+  static xnutil::ConfigStoreReg* const store = new xnutil::ConfigStoreReg(isServiceProcess);
+  store->loadValues(plat::priorityPreference, target);
+  store->loadPolicy(target);
 }
 
 } // namespace product

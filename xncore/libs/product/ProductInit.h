@@ -20,14 +20,6 @@ inline constexpr const char* pathComponent = "oxn";
 /// data in the machine's scope. False in the programs of a desktop user.
 extern bool isServiceProcess;
 
-/// Reads the stored settings into `target` (null: the global group) at
-/// priority 10, then the policy at 30.
-using StoredConfigurationLoader = void (*)(plat::Configuration* target);
-
-/// Installs the reader of the stored configuration; the store's library does
-/// so when it is part of the program.
-void setStoredConfigurationLoader(StoredConfigurationLoader loader) noexcept;
-
 /// Initialises the product for the application `appName`, or, when that is
 /// null, the name of `argv0` without ".exe". `displayNameKey` is the catalog
 /// key of the name shown to people. `logSpec` is the default of "Log"
@@ -42,8 +34,10 @@ void productInit(const char* argv0, const char* appName, const char* displayName
 void initLogDefaults(const char* logSpec, const char* logDir, const char* logFile,
                      const char* appName);
 
-/// The configuration step by itself, through the installed loader; false
-/// when none is installed.
-bool loadStoredConfiguration(plat::Configuration* target);
+/// The configuration step by itself: the store of the application's
+/// settings, made on first use in the machine's scope for a service and the
+/// user's otherwise, reads the preferences into `target` (null: the global
+/// group) at priority 10, then the policy at 30.
+void loadStoredConfiguration(plat::Configuration* target);
 
 } // namespace product

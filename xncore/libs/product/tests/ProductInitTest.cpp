@@ -1,6 +1,6 @@
 // Product initialisation: who the program is, the data directory in the
 // environment, the log defaults that a command line then overrides, the
-// stored configuration, and the banner that heads the log file.
+// user's stored settings, and the banner that heads the log file.
 #include "product/ProductInit.h"
 
 #include "os/AppInfo.h"
@@ -19,16 +19,6 @@
 #include <string>
 
 namespace {
-
-plat::Configuration* loadedInto = nullptr;
-int loads = 0;
-
-// Stands for the settings store: a stored preference for "Log".
-void loadStoredLog(plat::Configuration* target) {
-  loadedInto = target;
-  ++loads;
-  plat::Configuration::global().setParam("Log", "*:file:100", plat::priorityPreference);
-}
 
 TEST(ProductInit, SaysWhoTheProgramIsAndPublishesTheDataDirectory) {
   plat::test::TempDir dir;
@@ -76,19 +66,17 @@ TEST(ProductInit, SetsTheLogDefaultsBelowTheCommandLineAndHeadsTheFileWithTheFul
 
 TEST(ProductInit, ReadsTheStoredConfigurationOnlyWhenAsked) {
   plat::test::TempDir dir;
-  ASSERT_EQ(setenv("XDG_STATE_HOME", dir.path().c_str(), 1), 0);
-  product::productInit("tool", nullptr, nullptr, nullptr, false, true);
-  EXPECT_EQ(loads, 0) << "no store, nothing read";
+  ASSERT_EQ(setenv("XDG_STATE_HOME", dir.path("state").c_str(), 1), 0);
+  ASSERT_EQ(setenv("XDG_CONFIG_HOME", dir.path("config").c_str(), 1), 0);
+  dir.write("config/Ostrand/tool.conf", "Log=*:file:100\n");
+  plat::Configuration& global = plat::Configuration::global();
 
-  product::setStoredConfigurationLoader(loadStoredLog);
   product::productInit("tool", nullptr, nullptr, nullptr, false, false);
-  EXPECT_EQ(loads, 0);
+  EXPECT_STREQ(global.getString("Log").get(), "*:stderr:10");
   product::productInit("tool", nullptr, nullptr, nullptr, false, true);
-  EXPECT_EQ(loads, 1);
-  EXPECT_EQ(loadedInto, nullptr) << "the global group";
-  // The stored preference stands above the default that initialisation gave.
-  EXPECT_STREQ(plat::Configuration::global().getString("Log").get(), "*:file:100");
-  product::setStoredConfigurationLoader(nullptr);
+  // The user's preference stands above the default that initialisation gave.
+  EXPECT_STREQ(global.getString("Log").get(), "*:file:100");
+  EXPECT_EQ(global.findParam("Log")->getPriority(), plat::priorityPreference);
 }
 
 } // namespace
