@@ -15,9 +15,10 @@ struct LanguageConventions {
   std::string_view pluralForms;    // the header's "Plural-Forms"
   std::u32string_view quotes;      // the opening and closing quotation marks; empty for English
   std::u32string_view innerQuotes; // the marks of a quotation inside one, or empty
-  bool spacedPunctuation = false;  // a no-break space before : ; ? ! and inside the quotes
-  bool invertedMarks = false;      // questions and exclamations open with ¿ and ¡
-  bool fullWidth = false;          // full-width punctuation beside ideographs, mnemonics as "(&X)"
+  bool spacedPunctuation =
+      false;                  // a no-break space before : ; ? ! and inside the quotes, else none
+  bool invertedMarks = false; // questions and exclamations open with ¿ and ¡
+  bool fullWidth = false;     // full-width punctuation beside ideographs, mnemonics as "(&X)"
 };
 
 /// The conventions of `language`, or null for a language the catalogs do not have.

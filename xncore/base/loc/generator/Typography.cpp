@@ -49,8 +49,8 @@ public:
   std::vector<std::string> run(const std::string& english) {
     if (!conventions_.quotes.empty())
       checkQuotationMarks();
-    if (conventions_.spacedPunctuation)
-      checkSpacedPunctuation();
+    if (!conventions_.fullWidth)
+      checkPunctuationSpacing();
     if (conventions_.invertedMarks)
       checkInvertedMarks();
     if (conventions_.fullWidth) {
@@ -118,18 +118,23 @@ private:
     }
   }
 
-  void checkSpacedPunctuation() {
+  // French puts a no-break space before : ; ? !, the other languages no space at all.
+  void checkPunctuationSpacing() {
     for (std::size_t i = 0; i < text_.size(); ++i) {
       char32_t c = text_[i];
       if (inTag_[i] || !isOneOf(c, U":;?!") || !endsAPhrase(i))
         continue;
       char32_t previous = before(i);
-      if (previous == noBreakSpace || (isOneOf(c, U"?!") && isOneOf(previous, U"?!")))
+      if (!conventions_.spacedPunctuation) {
+        if (isSpace(previous))
+          report("no space before " + quoted(c));
+      } else if (previous == noBreakSpace || (isOneOf(c, U"?!") && isOneOf(previous, U"?!"))) {
         continue;
-      if (previous == ' ')
+      } else if (previous == ' ') {
         report("ordinary space before " + quoted(c) + ": make it a no-break space (U+00A0)");
-      else
+      } else {
         report(quoted(c) + " needs a no-break space (U+00A0) before it");
+      }
     }
   }
 

@@ -41,6 +41,7 @@ TEST(CatalogChecks, TypographyOfEachLanguage) {
       {"fr", "\"Allow\" of %S", "«\u00A0Autoriser\u00A0» d'%S", ""},
       {"fr", "\"Allow\"", "« Autoriser\u00A0»", "'«' needs a no-break space (U+00A0) after it"},
       {"fr", "\"Allow\"", "«\u00A0Autoriser»", "'»' needs a no-break space (U+00A0) before it"},
+      {"de", "Name:", "Name :", "no space before ':'"},
       {"de", "Bad argument '%S'.", "Ungültiges Argument \u201E%S\u201C.", ""},
       {"de", "Bad argument '%S'.", "Ungültiges Argument '%S'.",
        "straight quotation mark \"'\": quote with \u201E\u2026\u201C"},
