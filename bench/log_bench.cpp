@@ -3,6 +3,8 @@
 // destination also takes its lock, reads the clock, formats the timestamp and
 // flushes every line, so the fprintf with fflush is shown too. After the run
 // the ratios are printed.
+#include "RatioReporter.h"
+
 #include "plat/LogConfig.h"
 #include "plat/LogDestFile.h"
 #include "plat/LogSrc.h"
@@ -13,7 +15,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <string>
 
 namespace {
@@ -88,19 +89,6 @@ void fprintfAndFflushSameLengthLine(benchmark::State& state) {
   fprintfLine(state, true);
 }
 BENCHMARK(fprintfAndFflushSameLengthLine);
-
-// Keeps each benchmark's time per iteration for the summary.
-class RatioReporter : public benchmark::ConsoleReporter {
-public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type == Run::RT_Iteration && run.iterations > 0)
-        nanoseconds[run.benchmark_name()] = run.GetAdjustedRealTime(); // all run in ns
-    }
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> nanoseconds;
-};
 
 } // namespace
 
