@@ -3,7 +3,7 @@
 // and a line 16 pixels high, with 8 between paragraphs.
 #include "plat/MarkupLayout.h"
 
-#include "plat/MarkupFixedMetrics.h"
+#include "mui/headless/MarkupMetricsHeadless.h"
 #include "plat/utf8.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ using plat::Markup;
 
 // The pieces as "line:left-right@top 'text'", links as "line:left-right@top
 // href->'text'", paragraph ends as "|left,right|", joined by spaces.
-class Placer : public plat::MarkupFixedMetrics {
+class Placer : public mui::MarkupMetricsHeadless {
 public:
   void endParagraph(std::int32_t left, std::int32_t right) override {
     pieces_ += "|" + std::to_string(left) + "," + std::to_string(right) + "| ";
@@ -24,7 +24,7 @@ public:
   std::int32_t measure(const char* begin, const char* end) override {
     ++measures_;
     EXPECT_TRUE(plat::isValidUtf8(begin, end)) << std::string(begin, end);
-    return MarkupFixedMetrics::measure(begin, end);
+    return MarkupMetricsHeadless::measure(begin, end);
   }
   void drawText(const char* begin, const char* end, const Markup::Layout::Rect& rect,
                 std::int32_t line) override {
