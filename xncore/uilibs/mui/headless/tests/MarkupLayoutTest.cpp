@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 
 namespace {
@@ -47,24 +48,25 @@ private:
   }
 };
 
-struct Laid {
-  std::string pieces;
+struct Case {
+  const char* markup;
+  std::int32_t width;
+  const char* pieces;
   Markup::Layout::Size size;
 };
 
-Laid layOut(const char* markup, std::int32_t width, Placer&& placer = Placer()) {
-  Markup::Layout layout(&placer, width);
-  EXPECT_TRUE(Markup::parser().parse(markup, &layout)) << markup;
-  return {placer.pieces_, layout.size()};
+void expectLayouts(std::initializer_list<Case> cases) {
+  for (const Case& c : cases) {
+    Placer placer;
+    Markup::Layout layout(&placer, c.width);
+    EXPECT_TRUE(Markup::parser().parse(c.markup, &layout)) << c.markup;
+    EXPECT_EQ(placer.pieces_, c.pieces) << c.markup << " at " << c.width;
+    EXPECT_EQ(layout.size(), c.size) << c.markup << " at " << c.width;
+  }
 }
 
 TEST(MarkupLayout, BreaksLinesAtSeveralWidths) {
-  struct Case {
-    const char* markup;
-    std::int32_t width;
-    const char* pieces;
-    Markup::Layout::Size size;
-  } cases[] = {
+  expectLayouts({
       {"", 100, "$", {0, 0}},
       {"The quick brown fox", 0, "0:0-133@0 'The quick brown fox' |0,0| $", {133, 16}},
       {"The quick brown fox", 133, "0:0-133@0 'The quick brown fox' |0,0| $", {133, 16}},
@@ -96,24 +98,14 @@ TEST(MarkupLayout, BreaksLinesAtSeveralWidths) {
       {"aaa <br/>bbb", 21, "0:0-21@0 'aaa' 1:0-21@16 'bbb' |0,0| $", {21, 32}},
       // Not even one character fits: the rest of the run is dropped.
       {"abc", 5, "|0,0| $", {0, 0}},
-  };
-  for (const Case& c : cases) {
-    Laid laid = layOut(c.markup, c.width);
-    EXPECT_EQ(laid.pieces, c.pieces) << c.markup << " at " << c.width;
-    EXPECT_EQ(laid.size, c.size) << c.markup << " at " << c.width;
-  }
+  });
 }
 
 // Paddings are in line heights; the left margin counts twice in the space of
 // a line. Paragraphs stand a gap apart, and links keep their target on every
 // piece.
 TEST(MarkupLayout, ParagraphsMarginsAndLinks) {
-  struct Case {
-    const char* markup;
-    std::int32_t width;
-    const char* pieces;
-    Markup::Layout::Size size;
-  } cases[] = {
+  expectLayouts({
       {"<div style=\"padding-left:1;padding-right:0.5\">aaa bbb</div><div>c</div>",
        100,
        "0:16-65@0 'aaa bbb' |16,8| 1:0-7@24 'c' |0,0| $",
@@ -131,12 +123,7 @@ TEST(MarkupLayout, ParagraphsMarginsAndLinks) {
        60,
        "0:0-21@0 'go ' 0:21-35@0 http://h/->'to' 1:0-56@16 http://h/->'the site' |0,0| $",
        {56, 32}},
-  };
-  for (const Case& c : cases) {
-    Laid laid = layOut(c.markup, c.width);
-    EXPECT_EQ(laid.pieces, c.pieces) << c.markup << " at " << c.width;
-    EXPECT_EQ(laid.size, c.size) << c.markup << " at " << c.width;
-  }
+  });
 }
 
 // The estimate of pixels per byte carries from line to line, so a long text
