@@ -18,24 +18,20 @@ class MuLayout : public MuContainer {
 public:
   enum Orientation : int { Vertical = 0, Horizontal = 1 };
 
-  /// Sizing modes, the low four bits of a child's mode word.
-  enum Mode : int {
-    /// The child's own minimum, measured at each layout.
-    Natural = 0,
-    /// `size` pixels.
-    Fixed = 1,
-    /// A share of the spare room, `size` being the weight.
-    Weighted = 2,
-    ModeMask = 0x0f,
-  };
-  /// Placements across the main axis, bits 4 to 7 of a child's mode word.
-  enum Placement : int {
-    Fill = 0x00,
-    AtStart = 0x10,
-    AtEnd = 0x20,
-    Centred = 0x30,
-    PlacementMask = 0xf0,
-  };
+  // Sizing modes, the low four bits of a child's mode word.
+  /// The child's own minimum, measured at each layout.
+  static constexpr int Natural = 0;
+  /// `size` pixels.
+  static constexpr int Fixed = 1;
+  /// A share of the spare room, `size` being the weight.
+  static constexpr int Weighted = 2;
+  static constexpr int ModeMask = 0x0f;
+  // Placements across the main axis, bits 4 to 7 of a child's mode word.
+  static constexpr int Fill = 0x00;
+  static constexpr int AtStart = 0x10;
+  static constexpr int AtEnd = 0x20;
+  static constexpr int Centred = 0x30;
+  static constexpr int PlacementMask = 0xf0;
   /// Where moveChild() puts a child.
   enum Where : int { ToFront = 0, ToEnd = 1, Before = 2, After = 3 };
 

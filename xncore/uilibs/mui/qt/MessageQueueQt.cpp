@@ -1,5 +1,7 @@
 #include "mui/qt/MessageQueueQt.h"
 
+#include "mui/qt/EventGlueQt.h"
+
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QThread>
@@ -28,6 +30,7 @@ bool MessageQueueQt::take() {
   // Outside a running QEventLoop, Qt holds back a deleteLater that was not
   // called from inside one of its own event handlers; this turn is the loop.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  rethrowFromQt();
   return handled;
 }
 
@@ -59,6 +62,7 @@ int MessageQueueQt::block(const plat::NativeHandle* handles, std::size_t count, 
   limit_.stop();
   for (auto& [handle, notifier] : notifiers_)
     notifier->setEnabled(false);
+  rethrowFromQt();
   int result = plat::waitForHandles(handles, count, 0, error);
   if (result == plat::waitTimedOut && !limitReached_)
     return static_cast<int>(count); // Qt had something of its own

@@ -1,6 +1,5 @@
-// What the toolkit's tests share: the headless root with its hooks installed,
-// a dialog to build forms in, and a leaf element whose peer shows a text, so
-// that trees can be measured with the headless text model.
+// What the toolkit's tests share: the headless root with its hooks installed
+// and a dialog to build forms in.
 #pragma once
 
 #include "mui/MuDialog.h"
@@ -8,6 +7,7 @@
 #include "mui/MuiParameters.h"
 #include "mui/headless/MuCommonHeadless.h"
 #include "mui/headless/MuiHeadless.h"
+#include "mui/headless/TextLeafHeadless.h"
 
 #include <gtest/gtest.h>
 
@@ -15,26 +15,7 @@
 
 namespace mui::test {
 
-/// A leaf with a text peer: wraps like a label, or stays on one line.
-class TextLeaf : public MuElement {
-public:
-  static TextLeaf* create(MuContainer* parent, const char* name, const char* text,
-                          bool singleLine = false) {
-    auto* leaf = new TextLeaf(parent, name, text, singleLine);
-    parent->add(leaf);
-    return leaf;
-  }
-  MuCommonHeadless* peer() { return MuCommonHeadless::of(this); }
-
-private:
-  TextLeaf(MuContainer* parent, const char* name, const char* text, bool singleLine)
-      : MuElement(parent, name, text) {
-    MuCommonHeadless::Traits traits;
-    traits.singleLine = singleLine;
-    traits.focusable = true;
-    setCommon(std::make_unique<MuCommonHeadless>(this, traits));
-  }
-};
+using TextLeaf = TextLeafHeadless;
 
 /// A fresh headless root at "ppmm" 4 with one hidden dialog of 400 by 300 pixels.
 class HeadlessForm : public testing::Test {

@@ -102,11 +102,3 @@ TEST_F(QtLoop, BlocksWhileIdle) {
 
 } // namespace
 } // namespace mui
-
-int main(int argc, char** argv) {
-  // Tests need no display.
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(argc, argv);
-  testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
-}

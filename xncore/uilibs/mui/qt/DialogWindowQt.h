@@ -1,0 +1,28 @@
+// mui::DialogWindowQt: the top-level widget of a MuDialogQt. It hands what
+// the window system does to the window (closing, keys, activation, resizing,
+// theme changes) to its dialog, and forgets the dialog when it goes.
+#pragma once
+
+#include <QWidget>
+
+namespace mui {
+
+class MuDialogQt;
+
+class DialogWindowQt : public QWidget {
+public:
+  DialogWindowQt(MuDialogQt* dialog, QWidget* parent, Qt::WindowFlags flags);
+
+  void forgetDialog() noexcept { dialog_ = nullptr; }
+
+protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+private:
+  MuDialogQt* dialog_;
+};
+
+} // namespace mui

@@ -1,0 +1,273 @@
+#include "mui/qt/MuCommonQt.h"
+
+#include "mui/MuContainer.h"
+#include "mui/MuDialog.h"
+#include "mui/qt/EventGlueQt.h"
+#include "mui/qt/MuiQt.h"
+#include "xnutil/MouseCallback.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QScrollArea>
+#include <QTextDocument>
+#include <climits>
+
+namespace mui {
+
+namespace {
+
+// Tips wider than this wrap, as the platform's tool tips do.
+constexpr int toolTipWidth = 300;
+constexpr int toolTipShowMs = 30000;
+
+int lineCount(const QString& text) {
+  return static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
+}
+
+} // namespace
+
+MuCommonQt::MuCommonQt(MuElement* element, QWidget* widget, Traits traits)
+    : element_(element), widget_(widget), traits_(traits),
+      text_(QString::fromUtf8(element->label() ? element->label() : "")) {
+  if (element->name())
+    widget->setObjectName(QString::fromUtf8(element->name()));
+  if (!widget->isWindow()) {
+    widget->setGeometry(0, 0, 1, 1);
+    // Shown now, so that it appears with its parent, however late it came.
+    widget->setVisible(true);
+  }
+  widget->setToolTipDuration(toolTipShowMs);
+  if (traits_.translateMouse) {
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+  }
+  singleClick_.setSingleShot(true);
+  singleClick_.setInterval(QApplication::doubleClickInterval() + 100);
+  connect(&singleClick_, &QTimer::timeout, this,
+          [this] { deliverMouse(xnutil::MouseEvent::SingleClick, lastRelease_); });
+  updateAccessibleName();
+  styleChanged();
+}
+
+MuCommonQt::~MuCommonQt() {
+  singleClick_.stop();
+  // The widget may already be gone with a native container of its own.
+  delete widget_.data();
+}
+
+MuCommonQt* MuCommonQt::of(MuElement* element) {
+  return element ? dynamic_cast<MuCommonQt*>(element->common()) : nullptr;
+}
+
+QWidget* MuCommonQt::parentWidgetFor(MuContainer* parent) {
+  for (MuElement* element = parent; element; element = element->parent()) {
+    if (MuCommonQt* peer = of(element))
+      return peer->childArea();
+  }
+  return nullptr;
+}
+
+void MuCommonQt::setText(const QString& text) {
+  text_ = text;
+  updateAccessibleName();
+}
+
+void MuCommonQt::updateAccessibleName() {
+  QString name = QString::fromUtf8(element_->label() ? element_->label() : "");
+  if (traits_.mnemonics)
+    name = QString(name)
+               .replace(QLatin1String("&&"), QLatin1String("\x01"))
+               .remove('&')
+               .replace(QLatin1Char('\x01'), QLatin1Char('&'));
+  if (name.isEmpty())
+    name = QString::fromUtf8(element_->name() ? element_->name() : "");
+  widget_->setAccessibleName(name);
+  widget_->setAccessibleDescription(QString::fromUtf8(element_->fullName().orEmpty()));
+}
+
+void MuCommonQt::setVisible(bool show) {
+  widget_->setVisible(show);
+}
+
+bool MuCommonQt::isVisible() {
+  return !widget_->isHidden();
+}
+
+void MuCommonQt::moveFocusOn() {
+  for (QWidget* next = widget_->nextInFocusChain(); next && next != widget_;
+       next = next->nextInFocusChain()) {
+    if (next->window() == widget_->window() && !widget_->isAncestorOf(next) && next->isVisible() &&
+        next->isEnabled() && (next->focusPolicy() & Qt::TabFocus)) {
+      next->setFocus(Qt::TabFocusReason);
+      return;
+    }
+  }
+  widget_->clearFocus();
+}
+
+void MuCommonQt::setEnabled(bool enabled) {
+  if (!enabled && (widget_->hasFocus() || widget_->isAncestorOf(QApplication::focusWidget())))
+    moveFocusOn();
+  widget_->setEnabled(enabled);
+}
+
+void MuCommonQt::setFocus() {
+  MuDialog* dialog = element_->rootDialog();
+  if (dialog && dialog->isVisible())
+    widget_->setFocus(Qt::OtherFocusReason);
+}
+
+bool MuCommonQt::hasFocus() {
+  return widget_->hasFocus();
+}
+
+void MuCommonQt::setToolTip(const char* text) {
+  if (!text) {
+    widget_->setToolTip(QString());
+    return;
+  }
+  // Rich text so that a long tip wraps at the platform's width; escaped so
+  // that the tip shows exactly its text.
+  const QString plain = QString::fromUtf8(text);
+  const QFontMetrics metrics(QApplication::font("QTipLabel"));
+  QString html = plain.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+  if (metrics.horizontalAdvance(plain) > toolTipWidth)
+    html = QStringLiteral("<table width=\"%1\"><tr><td>%2</td></tr></table>")
+               .arg(toolTipWidth)
+               .arg(html);
+  widget_->setToolTip(QStringLiteral("<qt>%1</qt>").arg(html));
+}
+
+void MuCommonQt::setSize(Size size) {
+  const QSize wanted(std::max(0, size.width), std::max(0, size.height));
+  if (widget_->size() == wanted)
+    return;
+  if (widget_->isWindow())
+    widget_->resize(wanted);
+  else
+    widget_->setGeometry(QRect(widget_->pos(), wanted));
+}
+
+Size MuCommonQt::getSize() {
+  const QSize size = widget_->size();
+  return {size.width(), size.height()};
+}
+
+void MuCommonQt::setPosition(Point position) {
+  const QPoint wanted(position.x, position.y);
+  if (widget_->pos() == wanted)
+    return;
+  if (widget_->isWindow())
+    widget_->move(wanted);
+  else
+    widget_->setGeometry(QRect(wanted, widget_->size()));
+}
+
+Point MuCommonQt::getPosition() {
+  const QPoint position = widget_->pos();
+  return {position.x(), position.y()};
+}
+
+int MuCommonQt::minWidth(int) {
+  const QFontMetrics metrics(MuiQt::instance().font(element_->effectiveStyle()));
+  const int flags = traits_.mnemonics ? Qt::TextShowMnemonic : 0;
+  return metrics.boundingRect(QRect(0, 0, INT_MAX / 2, INT_MAX / 2), flags, text_).width();
+}
+
+int MuCommonQt::minHeight(int width) {
+  if (width < 1)
+    return 0;
+  const QFontMetrics metrics(MuiQt::instance().font(element_->effectiveStyle()));
+  if (traits_.singleLine || width == INT_MAX)
+    return metrics.height() * lineCount(text_);
+  const int flags = Qt::TextWordWrap | (traits_.mnemonics ? Qt::TextShowMnemonic : 0);
+  const QString shown = text_.isEmpty() ? QStringLiteral(" ") : text_;
+  return metrics.boundingRect(QRect(0, 0, width, INT_MAX / 2), flags, shown).height();
+}
+
+void MuCommonQt::styleChanged() {
+  const MuStyle& style = element_->effectiveStyle();
+  widget_->setFont(MuiQt::instance().font(style));
+  QPalette palette = widget_->palette();
+  if (const QColor text = MuiQt::colour(style.textColour.get()); text.isValid()) {
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::ButtonText, text);
+  }
+  const QColor background = MuiQt::colour(style.backgroundColour.get());
+  widget_->setAutoFillBackground(background.isValid() || widget_->isWindow());
+  if (background.isValid())
+    palette.setColor(QPalette::Window, background);
+  widget_->setPalette(palette);
+}
+
+void MuCommonQt::scrollIntoView(Rect rect) {
+  for (QWidget* above = widget_->parentWidget(); above; above = above->parentWidget()) {
+    auto* area = qobject_cast<QScrollArea*>(above);
+    if (!area || !area->widget())
+      continue;
+    const QPoint centre = widget_->mapTo(
+        area->widget(), QPoint((rect.tl.x + rect.br.x) / 2, (rect.tl.y + rect.br.y) / 2));
+    area->ensureVisible(centre.x(), centre.y(), rect.width() / 2, rect.height() / 2);
+    return;
+  }
+}
+
+void MuCommonQt::invalidate(Rect rect) {
+  widget_->update(QRect(rect.tl.x, rect.tl.y, rect.width(), rect.height()));
+}
+
+bool MuCommonQt::deliverMouse(int type, QPoint position) {
+  xnutil::MouseEvent record;
+  record.type = type;
+  record.position = {position.x(), position.y()};
+  record.source = element_;
+  bool consumed = false;
+  callFromQt([&] { consumed = element_->mouseEvent(record); });
+  return consumed;
+}
+
+bool MuCommonQt::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != widget_)
+    return false;
+  switch (event->type()) {
+  case QEvent::MouseButtonPress:
+  case QEvent::MouseButtonRelease:
+  case QEvent::MouseButtonDblClick: {
+    auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() != Qt::LeftButton)
+      return false;
+    const QPoint position = mouse->position().toPoint();
+    if (event->type() == QEvent::MouseButtonPress)
+      return deliverMouse(xnutil::MouseEvent::ButtonDown, position);
+    if (event->type() == QEvent::MouseButtonDblClick) {
+      singleClick_.stop();
+      afterDoubleClick_ = true;
+      return deliverMouse(xnutil::MouseEvent::DoubleClick, position);
+    }
+    const bool consumed = deliverMouse(xnutil::MouseEvent::ButtonUp, position);
+    // A single click is told only once no double click can come any more.
+    if (!afterDoubleClick_) {
+      lastRelease_ = position;
+      singleClick_.start();
+    }
+    afterDoubleClick_ = false;
+    return consumed;
+  }
+  case QEvent::MouseMove:
+    return deliverMouse(xnutil::MouseEvent::Move,
+                        static_cast<QMouseEvent*>(event)->position().toPoint());
+  case QEvent::Leave:
+    deliverMouse(xnutil::MouseEvent::Leave, QPoint());
+    return false;
+  case QEvent::ContextMenu:
+    deliverMouse(xnutil::MouseEvent::ContextMenu, static_cast<QContextMenuEvent*>(event)->pos());
+    return false;
+  default:
+    return false;
+  }
+}
+
+} // namespace mui

@@ -1,0 +1,127 @@
+#include "mui/qt/MuDialogQt.h"
+
+#include "mui/qt/DialogWindowQt.h"
+#include "mui/qt/MuCommonQt.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace mui {
+
+namespace {
+
+Qt::WindowFlags windowFlags(int style) {
+  if (style & MuDialog::Popup)
+    return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+           Qt::WindowDoesNotAcceptFocus;
+  Qt::WindowFlags flags =
+      Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+  if (style & MuDialog::NoCaption)
+    flags = Qt::Window | Qt::FramelessWindowHint;
+  if (!(style & MuDialog::DisableClose))
+    flags |= Qt::WindowCloseButtonHint;
+  if (!(style & MuDialog::NoHide))
+    flags |= Qt::WindowMinimizeButtonHint;
+  if (!(style & (MuDialog::FixedSize | MuDialog::AbsFixedSize)))
+    flags |= Qt::WindowMaximizeButtonHint;
+  if (style & MuDialog::Topmost)
+    flags |= Qt::WindowStaysOnTopHint;
+  return flags;
+}
+
+QWidget* windowOf(MuDialog* dialog) {
+  auto* qt = dynamic_cast<MuDialogQt*>(dialog);
+  return qt ? qt->window() : nullptr;
+}
+
+} // namespace
+
+MuDialogQt::MuDialogQt(const char* name, const char* title, const Size* size, int style,
+                       MuDialog* parentDialog, os::Window* parentWindow)
+    : MuDialog(name, size, style, parentDialog, parentWindow) {
+  window_ = new DialogWindowQt(this, windowOf(parentDialog), windowFlags(style));
+  if (isModal() && parentDialog)
+    window_->setWindowModality(Qt::WindowModal);
+  if (style & MuDialog::Popup)
+    window_->setAttribute(Qt::WA_ShowWithoutActivating);
+  window_->setWindowTitle(QString::fromUtf8(title ? title : ""));
+  setCommon(std::make_unique<MuCommonQt>(this, window_.data()));
+  if (size)
+    setSize(*size);
+}
+
+MuDialogQt::~MuDialogQt() {
+  if (window_)
+    window_->forgetDialog();
+}
+
+MuDialog* MuDialogQt::make(const char* name, const char* title, const Size* size, int style,
+                           MuDialog* parentDialog, os::Window* parentWindow) {
+  return new MuDialogQt(name, title, size, style, parentDialog, parentWindow);
+}
+
+QWidget* MuDialogQt::window() const {
+  return window_.data();
+}
+
+void MuDialogQt::setTitle(const char* title) {
+  window_->setWindowTitle(QString::fromUtf8(title ? title : ""));
+}
+
+Size MuDialogQt::getDesktopSize() {
+  const QScreen* screen = window_->screen() ? window_->screen() : QGuiApplication::primaryScreen();
+  const QSize size = screen ? screen->availableGeometry().size() : QSize();
+  return {size.width(), size.height()};
+}
+
+Size MuDialogQt::getWindowSize() {
+  const QSize size = window_->frameGeometry().size();
+  return {size.width(), size.height()};
+}
+
+void MuDialogQt::setMinimumSize(Size size) {
+  window_->setMinimumSize(size.width, size.height);
+}
+
+Point MuDialogQt::getScreenPosition() {
+  const QPoint origin = window_->mapToGlobal(QPoint(0, 0));
+  return {origin.x(), origin.y()};
+}
+
+// A fixed-size dialog cannot be dragged to another size by the user.
+void MuDialogQt::setSize(Size size) {
+  if (dialogStyle() & (FixedSize | AbsFixedSize))
+    window_->setFixedSize(std::max(0, size.width), std::max(0, size.height));
+  MuDialog::setSize(size);
+}
+
+void MuDialogQt::layout() {
+  laidOut_ = getSize();
+  MuDialog::layout();
+}
+
+void MuDialogQt::relayout() {
+  MuDialog::relayout();
+  window_->update();
+}
+
+void MuDialogQt::centre() {
+  QRect area;
+  if (QWidget* parent = window_->parentWidget(); parent && parent->isVisible())
+    area = parent->frameGeometry();
+  else if (const QScreen* screen = QGuiApplication::primaryScreen())
+    area = screen->availableGeometry();
+  const QSize size = window_->frameGeometry().size();
+  MuElement::setPosition({area.x() + (area.width() - size.width()) / 2,
+                          area.y() + (area.height() - size.height()) / 2});
+}
+
+void MuDialogQt::showWindow(bool show) {
+  MuDialog::showWindow(show);
+  if (show && !(dialogStyle() & Popup)) {
+    window_->raise();
+    window_->activateWindow();
+  }
+}
+
+} // namespace mui

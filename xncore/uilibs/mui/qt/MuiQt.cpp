@@ -1,0 +1,123 @@
+#include "mui/qt/MuiQt.h"
+
+#include "mui/DisplayDensity.h"
+#include "mui/MuiParameters.h"
+#include "mui/qt/MuDialogQt.h"
+#include "mui/qt/MuLayoutQt.h"
+#include "plat/Assertion.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QPalette>
+#include <QScreen>
+#include <cstring>
+
+namespace mui {
+
+namespace {
+
+// The house metrics of the native binding, in units.
+constexpr int nativeMetrics[MetricCount] = {16, 8, 22, 22, 46, 150, 32, 32};
+
+// Rounds half away from zero, as the unit conversions do.
+int divideRounded(int numerator, int denominator) {
+  return numerator >= 0 ? (numerator + denominator / 2) / denominator
+                        : (numerator - denominator / 2) / denominator;
+}
+
+struct RoleName {
+  const char* name;
+  QPalette::ColorGroup group;
+  QPalette::ColorRole role;
+};
+
+// The palette's system names that Qt's palette has a role for; the others
+// come from the built-in palette.
+constexpr RoleName roles[] = {
+    {"contentBg", QPalette::Active, QPalette::Base},
+    {"contentText", QPalette::Active, QPalette::Text},
+    {"disabledText", QPalette::Disabled, QPalette::Text},
+    {"buttonBg", QPalette::Active, QPalette::Button},
+    {"buttonText", QPalette::Active, QPalette::ButtonText},
+    {"selectedBg", QPalette::Active, QPalette::Highlight},
+    {"selectedText", QPalette::Active, QPalette::HighlightedText},
+    {"helpBg", QPalette::Active, QPalette::ToolTipBase},
+    {"helpText", QPalette::Active, QPalette::ToolTipText},
+};
+
+} // namespace
+
+bool SysColorsQt::lookup(const char* name, plat::Rgb* rgb) {
+  for (const RoleName& entry : roles) {
+    if (std::strcmp(entry.name, name) == 0) {
+      const QColor c = QApplication::palette().color(entry.group, entry.role);
+      *rgb = {static_cast<std::uint8_t>(c.red()), static_cast<std::uint8_t>(c.green()),
+              static_cast<std::uint8_t>(c.blue())};
+      return true;
+    }
+  }
+  return false;
+}
+
+bool SysColorsQt::isDark() {
+  const QColor base = QApplication::palette().color(QPalette::Active, QPalette::Base);
+  return base.red() <= 128 && base.green() <= 128 && base.blue() <= 128;
+}
+
+MuiQt::MuiQt() : base_(QApplication::font()) {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen)
+    ppmmParameter.setInt(ppmmForDpi(static_cast<int>(screen->logicalDotsPerInch() + 0.5)), 0);
+  setMetrics(nativeMetrics);
+  baseHeight_ = QFontInfo(base_).pixelSize();
+  plat::SysColors::setProvider(&colours_);
+}
+
+MuiQt::~MuiQt() {
+  if (plat::SysColors::provider() == &colours_)
+    plat::SysColors::setProvider(nullptr);
+}
+
+MuiQt& MuiQt::instance() {
+  return *XN_CHECKED_CAST(MuiQt, &Mui::instance());
+}
+
+// The message font goes through units and back, so that it follows an
+// overriding "ppmm" the way every other size does.
+int MuiQt::messageFontHeight() const {
+  const int defaultPpmm = ppmmParameter.defaultValue();
+  const int present = ppmmParameter;
+  const int a = defaultPpmm > 0 ? defaultPpmm : present;
+  const int units = divideRounded(8 * baseHeight_, a);
+  return divideRounded(units * present, 8);
+}
+
+QFont MuiQt::font(const MuStyle& style) {
+  const int height = messageFontHeight();
+  const auto key = std::make_tuple(height, style.fontSize, style.fontWeight, style.fontFlags);
+  auto found = fonts_.find(key);
+  if (found != fonts_.end())
+    return found->second;
+  QFont font = base_;
+  font.setPixelSize(std::max(1, (height * style.fontSize + 60) / 120));
+  font.setWeight(static_cast<QFont::Weight>(std::clamp(style.fontWeight, 100, 900)));
+  font.setItalic(style.isItalic());
+  font.setUnderline(style.isUnderlined());
+  fonts_.emplace(key, font);
+  return font;
+}
+
+QColor MuiQt::colour(const char* name, const char* fallback) {
+  plat::Rgb rgb;
+  if (!plat::resolveColour(name, fallback, &rgb))
+    return QColor();
+  return QColor(rgb.red, rgb.green, rgb.blue);
+}
+
+void installQtBinding(MuiQt& root) {
+  Mui::setInstance(&root);
+  muDialogFactory = &MuDialogQt::make;
+  muLayoutFactory = &MuLayoutQt::make;
+}
+
+} // namespace mui

@@ -1,0 +1,52 @@
+// mui::MuiQt: the root of the Qt binding. It takes the display's density as
+// the default of "ppmm", replaces the house metrics with the native ones,
+// makes fonts from the message font at the scale of "ppmm", resolves colour
+// names through the palette of the desktop, and installs the binding's
+// factory hooks. It needs the process's QApplication.
+#pragma once
+
+#include "mui/MuStyle.h"
+#include "mui/Mui.h"
+#include "plat/SysColors.h"
+
+#include <QColor>
+#include <QFont>
+#include <map>
+#include <tuple>
+
+namespace mui {
+
+/// The desktop's colours from Qt's palette.
+class SysColorsQt : public plat::SysColors {
+public:
+  bool lookup(const char* name, plat::Rgb* rgb) override;
+  bool isDark() override;
+};
+
+class MuiQt : public Mui {
+public:
+  MuiQt();
+  ~MuiQt() override;
+
+  static MuiQt& instance();
+
+  /// The font of `style`: the message font scaled by "ppmm", then by the
+  /// style's relative size, weight and flags. Fonts are shared through a cache.
+  QFont font(const MuStyle& style);
+  /// The colour `name` resolves to, or `fallback`'s, or an invalid colour.
+  static QColor colour(const char* name, const char* fallback = nullptr);
+  /// The message font's height in pixels at the present "ppmm".
+  int messageFontHeight() const;
+
+private:
+  SysColorsQt colours_;
+  QFont base_;
+  /// The message font's pixel height at the default "ppmm".
+  int baseHeight_;
+  std::map<std::tuple<int, int, int, int>, QFont> fonts_;
+};
+
+/// Makes `root` the toolkit's root and installs every factory hook of the Qt binding.
+void installQtBinding(MuiQt& root);
+
+} // namespace mui
