@@ -13,7 +13,7 @@ bool isBlank(char ch) {
   return ch == ' ' || ch == '\t';
 }
 
-// One line of the text, without its line feed (and a carriage return before it).
+// One line of the text, without its line feed and the carriage returns before it.
 struct Line {
   const char* begin;
   const char* end;
@@ -24,7 +24,7 @@ Line lineAt(const char* cursor) {
   const char* feed = std::strchr(cursor, '\n');
   const char* end = feed ? feed : cursor + std::strlen(cursor);
   const char* next = feed ? feed + 1 : nullptr;
-  if (end > cursor && end[-1] == '\r')
+  while (end > cursor && end[-1] == '\r')
     --end;
   return Line{cursor, end, next};
 }
