@@ -63,6 +63,10 @@ void MuCommonHeadless::setEnabled(bool enabled) {
   enabled_ = enabled;
 }
 
+bool MuCommonHeadless::acceptsInput() {
+  return enabled_ && element_->isShown();
+}
+
 void MuCommonHeadless::setFocus() {
   MuDialog* dialog = element_->rootDialog();
   if (!dialog || !dialog->isVisible() || !traits_.focusable || !enabled_)

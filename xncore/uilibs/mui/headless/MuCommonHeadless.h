@@ -53,6 +53,8 @@ public:
   MuElement* element() const noexcept { return element_; }
   bool isEnabled() const noexcept { return enabled_; }
   bool isFocusable() const noexcept { return traits_.focusable; }
+  /// Whether the user can reach the control: enabled, and shown with all its ancestors.
+  bool acceptsInput();
   /// The text that the peer shows and measures.
   const char* text() const noexcept { return text_.orEmpty(); }
   void setText(const char* text) { text_ = plat::String(text); }

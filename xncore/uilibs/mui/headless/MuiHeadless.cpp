@@ -1,5 +1,6 @@
 #include "mui/headless/MuiHeadless.h"
 
+#include "mui/headless/MuButtonHeadless.h"
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
 #include "plat/Assertion.h"
@@ -14,6 +15,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   Mui::setInstance(&root);
   muDialogFactory = &MuDialogHeadless::make;
   muLayoutFactory = &MuLayoutHeadless::make;
+  muButtonFactory = &MuButtonHeadless::make;
 }
 
 } // namespace mui

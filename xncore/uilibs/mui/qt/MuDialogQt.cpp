@@ -1,6 +1,7 @@
 #include "mui/qt/MuDialogQt.h"
 
 #include "mui/qt/DialogWindowQt.h"
+#include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuCommonQt.h"
 
 #include <QGuiApplication>
@@ -103,6 +104,18 @@ void MuDialogQt::layout() {
 void MuDialogQt::relayout() {
   MuDialog::relayout();
   window_->update();
+}
+
+void MuDialogQt::setButton(int which, MuElement* element) {
+  MuDialog::setButton(which, element);
+  if (which != DefaultButton)
+    return;
+  if (defaultWidget_)
+    defaultWidget_->setDefault(false);
+  auto* button = dynamic_cast<MuButtonQt*>(element);
+  defaultWidget_ = button ? button->widget() : nullptr;
+  if (defaultWidget_)
+    defaultWidget_->setDefault(true);
 }
 
 void MuDialogQt::centre() {

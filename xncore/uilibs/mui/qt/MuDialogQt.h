@@ -7,6 +7,7 @@
 #include "mui/MuDialog.h"
 
 #include <QPointer>
+#include <QPushButton>
 #include <QWidget>
 
 namespace mui {
@@ -27,6 +28,8 @@ public:
   void setSize(Size size) override;
   void layout() override;
   void relayout() override;
+  /// Also shows a default button as the default.
+  void setButton(int which, MuElement* element) override;
 
   QWidget* window() const;
   /// The client size that the last layout was made for.
@@ -41,6 +44,8 @@ private:
              MuDialog* parentDialog, os::Window* parentWindow);
 
   QPointer<DialogWindowQt> window_;
+  /// The widget shown as the default button; it may go before the dialog does.
+  QPointer<QPushButton> defaultWidget_;
   Size laidOut_;
 };
 

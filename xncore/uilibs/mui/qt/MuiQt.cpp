@@ -2,6 +2,7 @@
 
 #include "mui/DisplayDensity.h"
 #include "mui/MuiParameters.h"
+#include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuDialogQt.h"
 #include "mui/qt/MuLayoutQt.h"
 #include "plat/Assertion.h"
@@ -118,6 +119,7 @@ void installQtBinding(MuiQt& root) {
   Mui::setInstance(&root);
   muDialogFactory = &MuDialogQt::make;
   muLayoutFactory = &MuLayoutQt::make;
+  muButtonFactory = &MuButtonQt::make;
 }
 
 } // namespace mui
