@@ -1,6 +1,7 @@
 #include "mui/headless/MuiHeadless.h"
 
 #include "mui/headless/MuButtonHeadless.h"
+#include "mui/headless/MuCheckHeadless.h"
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
 #include "plat/Assertion.h"
@@ -16,6 +17,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muDialogFactory = &MuDialogHeadless::make;
   muLayoutFactory = &MuLayoutHeadless::make;
   muButtonFactory = &MuButtonHeadless::make;
+  muCheckFactory = &MuCheckHeadless::make;
 }
 
 } // namespace mui

@@ -3,6 +3,7 @@
 #include "mui/DisplayDensity.h"
 #include "mui/MuiParameters.h"
 #include "mui/qt/MuButtonQt.h"
+#include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuDialogQt.h"
 #include "mui/qt/MuLayoutQt.h"
 #include "plat/Assertion.h"
@@ -120,6 +121,7 @@ void installQtBinding(MuiQt& root) {
   muDialogFactory = &MuDialogQt::make;
   muLayoutFactory = &MuLayoutQt::make;
   muButtonFactory = &MuButtonQt::make;
+  muCheckFactory = &MuCheckQt::make;
 }
 
 } // namespace mui
