@@ -4,6 +4,7 @@
 #include "mui/headless/MuCheckHeadless.h"
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
+#include "mui/headless/MuSliderHeadless.h"
 #include "plat/Assertion.h"
 
 namespace mui {
@@ -18,6 +19,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muLayoutFactory = &MuLayoutHeadless::make;
   muButtonFactory = &MuButtonHeadless::make;
   muCheckFactory = &MuCheckHeadless::make;
+  muSliderFactory = &MuSliderHeadless::make;
 }
 
 } // namespace mui

@@ -6,6 +6,7 @@
 #include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuDialogQt.h"
 #include "mui/qt/MuLayoutQt.h"
+#include "mui/qt/MuSliderQt.h"
 #include "plat/Assertion.h"
 
 #include <QApplication>
@@ -122,6 +123,7 @@ void installQtBinding(MuiQt& root) {
   muLayoutFactory = &MuLayoutQt::make;
   muButtonFactory = &MuButtonQt::make;
   muCheckFactory = &MuCheckQt::make;
+  muSliderFactory = &MuSliderQt::make;
 }
 
 } // namespace mui
