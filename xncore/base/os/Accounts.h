@@ -8,6 +8,8 @@
 #include "plat/String.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace os {
 
@@ -34,6 +36,29 @@ AccountInfo accountFromSid(const Sid& sid, const char* machine);
 
 /// The account this process runs as.
 Sid currentUserSid();
+
+/// The full name that the account database gives the local user `name`, or
+/// empty when it gives none or there is no such user.
+plat::String localUserFullName(const char* name);
+
+/// One account as an enumeration of the account databases gives it.
+struct AccountEntry {
+  std::string name;
+  /// A user's full name; empty for groups and for users without one.
+  std::string fullName;
+  bool isGroup = false;
+};
+
+/// Every user, then every group, that the account databases enumerate, each
+/// once, in the order they give them. Databases that can't be enumerated (as
+/// many directory services by default) contribute nothing.
+std::vector<AccountEntry> enumerateAccounts();
+
+/// The display name and user principal name that the directory of `domain`
+/// holds for the account `sid`, each empty when unknown. False when this
+/// system has no directory to ask.
+bool directoryAccountNames(const Sid& sid, const char* domain, plat::String& displayName,
+                           plat::String& upn);
 
 /// This computer's name, at most 16 characters; empty if unavailable.
 plat::String computerName();

@@ -14,6 +14,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <set>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace os {
@@ -24,11 +27,11 @@ plat::Exception noSuchAccount() {
   return plat::Exception("no such account");
 }
 
-// Runs one of the reentrant look-ups of the name service switch, growing the
-// buffer while it is too small, and copies the entry's name out of the buffer.
-// Null when there is no such entry.
-template <class Entry, class Call>
-plat::String lookUpName(const char* function, char* Entry::*name, Call call) {
+// Runs one of the reentrant calls of the name service switch, growing the
+// buffer while the entry doesn't fit (a call then gives the same entry again),
+// and hands the entry to `take`, or null when there is none.
+template <class Entry, class Call, class Take>
+void callGrowing(const char* function, Call call, Take take) {
   static constexpr std::size_t maxBuffer = std::size_t{1} << 24;
   std::vector<char> buffer(1024);
   for (;;) {
@@ -39,24 +42,60 @@ plat::String lookUpName(const char* function, char* Entry::*name, Call call) {
       buffer.resize(buffer.size() * 2);
       continue;
     }
-    // Some modules report a missing entry as ENOENT rather than by a null result.
+    // Some modules report a missing entry (or the end of an enumeration) as
+    // ENOENT rather than by a null result.
     if (error != 0 && error != ENOENT)
       throw plat::SystemException(function, error);
-    return found ? plat::String(found->*name) : plat::String();
+    take(error == 0 ? found : nullptr);
+    return;
   }
+}
+
+// A look-up by name or id: one field of the entry, or null when there is none.
+template <class Entry, class Call>
+plat::String lookUpField(const char* function, char* Entry::*field, Call call) {
+  plat::String value;
+  callGrowing<Entry>(function, call, [&](const Entry* found) {
+    if (found)
+      value = plat::String(found->*field);
+  });
+  return value;
+}
+
+// Walks one database from its start, handing each entry to `take`, and closes
+// the walk however it ends.
+template <class Entry, void (*Start)(), void (*End)(), class Next, class Take>
+void enumerate(const char* function, Next next, Take take) {
+  struct Walk {
+    Walk() { Start(); }
+    ~Walk() { End(); }
+  } walk;
+  for (bool more = true; more;) {
+    callGrowing<Entry>(function, next, [&](const Entry* found) {
+      more = found != nullptr;
+      if (found)
+        take(*found);
+    });
+  }
+}
+
+// What the comment field of the user database holds up to its first comma:
+// the full name, which office and telephone may follow.
+std::string fullNameOf(const char* comment) {
+  return comment ? std::string(comment, std::strcspn(comment, ",")) : std::string();
 }
 
 // The canonical name of the user or group `name`, or null when there is none.
 plat::String canonicalName(const char* name, bool isGroup) {
   if (isGroup)
-    return lookUpName("getgrnam_r", &group::gr_name,
-                      [name](group* entry, char* buffer, std::size_t size, group** found) {
-                        return getgrnam_r(name, entry, buffer, size, found);
-                      });
-  return lookUpName("getpwnam_r", &passwd::pw_name,
-                    [name](passwd* entry, char* buffer, std::size_t size, passwd** found) {
-                      return getpwnam_r(name, entry, buffer, size, found);
-                    });
+    return lookUpField("getgrnam_r", &group::gr_name,
+                       [name](group* entry, char* buffer, std::size_t size, group** found) {
+                         return getgrnam_r(name, entry, buffer, size, found);
+                       });
+  return lookUpField("getpwnam_r", &passwd::pw_name,
+                     [name](passwd* entry, char* buffer, std::size_t size, passwd** found) {
+                       return getpwnam_r(name, entry, buffer, size, found);
+                     });
 }
 
 // The name service has no view of other computers' accounts.
@@ -114,13 +153,45 @@ AccountInfo accountFromSid(const Sid& sid, const char* machine) {
   return info;
 }
 
+plat::String localUserFullName(const char* name) {
+  plat::String comment =
+      lookUpField("getpwnam_r", &passwd::pw_gecos,
+                  [name](passwd* entry, char* buffer, std::size_t size, passwd** found) {
+                    return getpwnam_r(name, entry, buffer, size, found);
+                  });
+  return plat::String(fullNameOf(comment.get()).c_str());
+}
+
+std::vector<AccountEntry> enumerateAccounts() {
+  std::vector<AccountEntry> accounts;
+  // Several modules may know the same account (files and a directory cache).
+  std::set<std::pair<std::string, bool>> seen;
+  auto keep = [&](const char* name, std::string fullName, bool isGroup) {
+    if (seen.emplace(name, isGroup).second)
+      accounts.push_back({name, std::move(fullName), isGroup});
+  };
+  enumerate<passwd, setpwent, endpwent>("getpwent_r", getpwent_r, [&](const passwd& user) {
+    keep(user.pw_name, fullNameOf(user.pw_gecos), false);
+  });
+  enumerate<group, setgrent, endgrent>("getgrent_r", getgrent_r, [&](const group& entry) {
+    keep(entry.gr_name, std::string(), true);
+  });
+  return accounts;
+}
+
+bool directoryAccountNames(const Sid&, const char*, plat::String&, plat::String&) {
+  // The name service switch translates no names: a domain account that one
+  // of its modules knows shows its qualified name alone.
+  return false;
+}
+
 Sid currentUserSid() {
   uid_t uid = geteuid();
   plat::String name =
-      lookUpName("getpwuid_r", &passwd::pw_name,
-                 [uid](passwd* entry, char* buffer, std::size_t size, passwd** found) {
-                   return getpwuid_r(uid, entry, buffer, size, found);
-                 });
+      lookUpField("getpwuid_r", &passwd::pw_name,
+                  [uid](passwd* entry, char* buffer, std::size_t size, passwd** found) {
+                    return getpwuid_r(uid, entry, buffer, size, found);
+                  });
   if (name.isNull())
     throw noSuchAccount();
   return Sid::forAccount(name.get(), false);

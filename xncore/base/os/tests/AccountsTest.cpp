@@ -9,8 +9,12 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
+#include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace os::test {
 namespace {
@@ -68,6 +72,45 @@ TEST(AccountsTest, AccountsOfIdsBelongToThisComputerOrAreWellKnown) {
   EXPECT_STREQ(accountFromSid(sidFromString("S-1-5-32-545"), nullptr).name.get(), "Users");
   for (const Sid& missing : {sidFromString("S-1-5-21-1-2-3-500"), Sid::forAccount("adm", false)})
     EXPECT_EQ(plat::test::errorOf([&] { accountFromSid(missing, nullptr); }), "no such account");
+}
+
+TEST(AccountsTest, EnumeratesUsersThenGroupsEachOnceWithFullNames) {
+  std::vector<AccountEntry> accounts = enumerateAccounts();
+  auto find = [&](const char* name, bool isGroup) -> const AccountEntry* {
+    auto found = std::find_if(accounts.begin(), accounts.end(), [&](const AccountEntry& a) {
+      return a.name == name && a.isGroup == isGroup;
+    });
+    return found == accounts.end() ? nullptr : &*found;
+  };
+  // "list" has the full name "Mailing List Manager", "_apt" none.
+  const struct {
+    const char* name;
+    bool isGroup;
+    const char* fullName;
+  } expected[] = {
+      {"root", false, "root"},
+      {"root", true, ""},
+      {"adm", true, ""},
+      {"_apt", false, ""},
+      {"list", false, "Mailing List Manager"},
+  };
+  for (const auto& e : expected) {
+    SCOPED_TRACE(e.name);
+    const AccountEntry* account = find(e.name, e.isGroup);
+    ASSERT_NE(account, nullptr);
+    EXPECT_EQ(account->fullName, e.fullName);
+    if (!e.isGroup) {
+      EXPECT_EQ(localUserFullName(e.name).get(), account->fullName);
+    }
+  }
+  EXPECT_EQ(find("adm", false), nullptr);
+  EXPECT_STREQ(localUserFullName("no-such-account-xn").get(), "");
+
+  std::set<std::pair<std::string, bool>> seen;
+  for (const AccountEntry& account : accounts)
+    EXPECT_TRUE(seen.emplace(account.name, account.isGroup).second) << account.name;
+  EXPECT_TRUE(std::is_partitioned(accounts.begin(), accounts.end(),
+                                  [](const AccountEntry& a) { return !a.isGroup; }));
 }
 
 } // namespace
