@@ -5,6 +5,8 @@
 #include "plat/LogConfig.h"
 #include "plat/MessageQueue.h"
 
+#include <utility>
+
 namespace os {
 
 namespace {
@@ -53,11 +55,22 @@ int AppLoop::run() {
   return exitCode_;
 }
 
+AppLoop* AppLoop::instOrNull() noexcept {
+  return theLoop;
+}
+
 void AppLoop::quit(int code) noexcept {
   AppLoop& loop = inst();
   loop.exitCode_ = code;
   loop.stopRequested_ = true;
   loop.impl_->wake();
+}
+
+bool AppLoop::runNested(const bool& running) {
+  AppLoopImpl* impl = XN_CHECKED_CAST(AppLoopImpl, impl_.get());
+  while (running && !stopRequested_)
+    impl->turn();
+  return std::exchange(stopRequested_, false);
 }
 
 void AppLoop::setTranslateMessages(bool translate) noexcept {

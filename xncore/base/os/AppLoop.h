@@ -38,12 +38,19 @@ public:
   virtual ~AppLoop();
 
   static AppLoop& inst() noexcept;
+  /// The loop, or null before it is made and after it is gone.
+  static AppLoop* instOrNull() noexcept;
 
   /// Runs the loop until quit() and gives its code. Not nested: modal loops
   /// run turns of their own.
   int run();
   /// Ends run() with `code`; before run(), run() returns at once.
   static void quit(int code) noexcept;
+  /// Runs turns of the loop, inside run() or outside it, until `running` goes
+  /// false or a quit is asked for: the run of a modal window. A quit that ends
+  /// it is taken by it, as the platform's modal loops take the quit message,
+  /// so the loop around it goes on. True when a quit ended it.
+  bool runNested(const bool& running);
 
   bool stopRequested() const noexcept { return stopRequested_; }
   bool running() const noexcept { return isRunning; }

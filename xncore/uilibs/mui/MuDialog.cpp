@@ -2,14 +2,62 @@
 
 #include "mui/Keys.h"
 #include "mui/Mui.h"
+#include "os/AppLoop.h"
+#include "os/Window.h"
 #include "plat/Assertion.h"
 #include "plat/DString.h"
 
 #include <algorithm>
+#include <cstring>
+#include <initializer_list>
 
 namespace mui {
 
 MuDialogFactory muDialogFactory = nullptr;
+
+// One CodeModal run of the loop, on the stack of the showing. A showing that
+// starts while an earlier run of the same dialog still unwinds stands in
+// front of it. A dialog destroyed during its own run marks its runs, so that
+// nothing touches it once they return.
+struct MuDialog::ModalRun {
+  bool running = true;
+  bool destroyed = false;
+  ModalRun* previous = nullptr;
+};
+
+namespace {
+
+bool isOfType(MuElement* element, std::initializer_list<const char*> types) {
+  return element && std::any_of(types.begin(), types.end(), [element](const char* type) {
+           return std::strcmp(element->typeName(), type) == 0;
+         });
+}
+
+class MoveCallbackExceptButtons : public MuDialog::MoveCallback {
+public:
+  bool canMove(MuDialog*, MuElement* element, Point*) override {
+    return !isOfType(element, {"button"});
+  }
+};
+
+class MoveCallbackExceptControls : public MuDialog::MoveCallback {
+public:
+  bool canMove(MuDialog*, MuElement* element, Point*) override {
+    return !isOfType(element, {"button", "list", "check"});
+  }
+};
+
+} // namespace
+
+MuDialog::MoveCallback* MuDialog::moveCallbackExceptButtons() {
+  static MoveCallbackExceptButtons callback;
+  return &callback;
+}
+
+MuDialog::MoveCallback* MuDialog::moveCallbackExceptControls() {
+  static MoveCallbackExceptControls callback;
+  return &callback;
+}
 
 MuDialog::Registration::Registration(MuDialog* dialog) : dialog_(dialog) {
   Mui::instance().registerDialog(dialog_, true);
@@ -30,9 +78,16 @@ MuDialog::MuDialog(const char* name, const Size* size, int style, MuDialog* pare
 }
 
 MuDialog::~MuDialog() {
+  for (ModalRun* run = modalRun_; run; run = run->previous) {
+    run->running = false;
+    run->destroyed = true;
+  }
   // The window stays until the base destructor, so panels go while it exists.
-  if (MuCommon* peer = common(); peer && peer->isVisible())
+  if (MuCommon* peer = common(); peer && peer->isVisible()) {
+    if (isModal())
+      enableParentWindow(true);
     peer->setVisible(false);
+  }
   removeAll();
 }
 
@@ -163,25 +218,93 @@ void MuDialog::setVisible(bool show) {
   if (!show) {
     if (!isVisible())
       return;
+    if (modalRun_)
+      modalRun_->running = false;
     if (isModal())
       enableParentWindow(true);
+    mouseReleased();
     showWindow(false);
     return;
   }
   layout();
   fitHeight();
-  if (!positioned_ && !isVisible())
-    centre();
+  if (!positioned_ && !isVisible()) {
+    if (os::Window* window = getWindow())
+      window->centreOn(parentWindow_);
+  }
   showWindow(true);
   if (isModal() && parentWindow_)
     enableParentWindow(false);
+  if (dialogStyle_ & CodeModal)
+    runModal();
+}
+
+void MuDialog::runModal() {
+  const bool runningCodeModal = this->runningCodeModal();
+  XN_ASSERT(!runningCodeModal);
+  ModalRun run;
+  run.previous = modalRun_;
+  modalRun_ = &run;
+  os::AppLoop::inst().runNested(run.running);
+  if (!run.destroyed)
+    modalRun_ = run.previous;
+}
+
+bool MuDialog::runningCodeModal() const noexcept {
+  return modalRun_ && modalRun_->running;
 }
 
 void MuDialog::showWindow(bool show) {
   MuContainer::setVisible(show);
 }
 
-void MuDialog::enableParentWindow(bool) {}
+void MuDialog::enableParentWindow(bool enable) {
+  if (parentWindow_)
+    parentWindow_->enable(enable);
+}
+
+void MuDialog::captureMouse(bool) {}
+
+bool MuDialog::mousePressed(MuElement* element, Point position, Point screenPosition) {
+  if (mouseDownCallback_ && mouseDownCallback_->mouseDown(this))
+    return true;
+  os::Window* window = getWindow();
+  if (!moveCallback_ || !window || window->isMaximised() || window->isMinimised())
+    return false;
+  Point asked = position;
+  if (!moveCallback_->canMove(this, element, &asked))
+    return false;
+  dragging_ = true;
+  dragStart_ = screenPosition;
+  dragOrigin_ = window->getRect().tl;
+  captureMouse(true);
+  return true;
+}
+
+void MuDialog::mouseMoved(Point screenPosition) {
+  if (!dragging_)
+    return;
+  // Not setPosition(): a dragged dialog is still centred when it is shown again.
+  os::Window* window = getWindow();
+  window->setPos(dragOrigin_.translate(screenPosition).translate(dragStart_.negate()));
+  window->raise();
+}
+
+void MuDialog::mouseReleased() {
+  if (!dragging_)
+    return;
+  dragging_ = false;
+  captureMouse(false);
+}
+
+void MuDialog::activationChanged(bool active) {
+  if (!active) {
+    mouseReleased();
+    if (dialogStyle_ & DismissOnOutsideClick)
+      dismisser_.dismiss();
+  }
+  notify(this, active ? EventWindowActive : EventWindowInactive);
+}
 
 void MuDialog::setPosition(Point position) {
   positioned_ = true;

@@ -1,11 +1,14 @@
 // mui::MuDialog: a window, and the root of an element tree. It owns panels
 // (a main area with optional strips above and below), lays them out with its
 // margin, can fit its height to its content, and owns window behaviour: the
-// default and cancel buttons, closing, and modality. It is created hidden and
-// owned by whoever made it; showing and hiding never recreate its window.
+// default and cancel buttons, closing, modality (a CodeModal showing runs the
+// application loop's turns until the dialog is hidden), dragging by the
+// background and hiding on a click elsewhere. It is created hidden and owned
+// by whoever made it; showing and hiding never recreate its window.
 #pragma once
 
 #include "mui/MuContainer.h"
+#include "mui/PopupDismisser.h"
 
 #include <memory>
 #include <vector>
@@ -65,6 +68,11 @@ public:
     virtual ~CloseCallback() = default;
   };
 
+  /// Starts a drag on a press on any element but a button.
+  static MoveCallback* moveCallbackExceptButtons();
+  /// Starts a drag on a press on any element but a button, a list or a check box.
+  static MoveCallback* moveCallbackExceptControls();
+
   /// A hidden dialog of client size `size` (units already turned into pixels).
   static MuDialog* create(const char* name, const char* title, const Size* size, int style,
                           MuDialog* parentDialog, os::Window* parentWindow);
@@ -91,7 +99,9 @@ public:
   void layout() override;
   /// layout(), then fitting the height.
   void relayout() override;
-  /// Lays out, centres when unplaced, shows; hiding ends a modal run.
+  /// Lays out, centres when unplaced, shows; under CodeModal, runs the
+  /// application loop until the dialog is hidden again, which is the only
+  /// thing that ends the run besides a quit of the loop.
   void setVisible(bool show) override;
   /// Marks the dialog as placed: it is not centred again.
   void setPosition(Point position) override;
@@ -111,6 +121,20 @@ public:
   /// Sets the height to the content's, as the style asks.
   void fitHeight();
 
+  /// The binding's report of a left press on `element` at `position` (client
+  /// coordinates of the dialog), `screenPosition` on the screen: the
+  /// mouse-down callback, then a drag by the background as the move callback
+  /// allows. True when either took the press.
+  bool mousePressed(MuElement* element, Point position, Point screenPosition);
+  /// The pointer moved to `screenPosition`; moves the window while dragging.
+  void mouseMoved(Point screenPosition);
+  /// The button went up or the window lost the mouse: the drag ends.
+  void mouseReleased();
+  bool isDragging() const noexcept { return dragging_; }
+  /// The binding's report that the window became active or stopped being so.
+  void activationChanged(bool active);
+  /// Whether a CodeModal showing is running the loop now.
+  bool runningCodeModal() const noexcept;
   void setActivateCallback(ActivateCallback* callback) noexcept { activateCallback_ = callback; }
   void setMouseDownCallback(MouseDownCallback* callback) noexcept { mouseDownCallback_ = callback; }
   void setMoveCallback(MoveCallback* callback) noexcept { moveCallback_ = callback; }
@@ -126,6 +150,7 @@ public:
   ActivateCallback* activateCallback() const noexcept { return activateCallback_; }
   MouseDownCallback* mouseDownCallback() const noexcept { return mouseDownCallback_; }
   MoveCallback* moveCallback() const noexcept { return moveCallback_; }
+  CloseCallback* closeCallback() const noexcept { return closeCallback_; }
   bool isModal() const noexcept { return (dialogStyle_ & (WindowModal | CodeModal)) != 0; }
 
   ~MuDialog() override;
@@ -134,12 +159,14 @@ protected:
   MuDialog(const char* name, const Size* size, int style, MuDialog* parentDialog,
            os::Window* parentWindow);
 
-  /// Binding: centres the window on its parent window, or on the screen.
-  virtual void centre() = 0;
   /// Binding: shows or hides the window itself, activating it as the style says.
   virtual void showWindow(bool show);
-  /// Binding: enables or disables the parent window around a modal showing.
+  /// Enables or disables the parent window around a modal showing.
   virtual void enableParentWindow(bool enable);
+  /// Binding: captures the mouse with the four-way arrow for a drag, and gives it back.
+  virtual void captureMouse(bool capture);
+  /// What hides a DismissOnOutsideClick dialog; the binding feeds it the presses.
+  PopupDismisser& dismisser() noexcept { return dismisser_; }
 
 private:
   struct Panel {
@@ -157,7 +184,10 @@ private:
     MuDialog* dialog_;
   };
 
+  struct ModalRun;
+
   std::vector<Panel>::iterator panelOf(MuElement* element);
+  void runModal();
 
   std::vector<Panel> panels_;
   int dialogStyle_;
@@ -170,6 +200,11 @@ private:
   MouseDownCallback* mouseDownCallback_ = nullptr;
   MoveCallback* moveCallback_ = nullptr;
   CloseCallback* closeCallback_ = nullptr;
+  ModalRun* modalRun_ = nullptr;
+  bool dragging_ = false;
+  Point dragStart_;
+  Point dragOrigin_;
+  PopupDismisser dismisser_{this};
   Registration registration_;
 };
 

@@ -69,7 +69,8 @@ bool MuCommonHeadless::acceptsInput() {
 
 void MuCommonHeadless::setFocus() {
   MuDialog* dialog = element_->rootDialog();
-  if (!dialog || !dialog->isVisible() || !traits_.focusable || !enabled_)
+  if (!dialog || !(dialog->isVisible() || dialog->runningCodeModal()) || !traits_.focusable ||
+      !enabled_)
     return;
   record("setFocus");
   focusHolder = this;

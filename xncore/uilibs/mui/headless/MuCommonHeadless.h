@@ -36,7 +36,8 @@ public:
   bool isVisible() override { return visible_; }
   /// Disabling the focused peer first moves the focus on, as a platform does.
   void setEnabled(bool enabled) override;
-  /// Takes the focus only while the dialog is shown, and only for a focusable peer.
+  /// Takes the focus only while the dialog is shown or in a CodeModal run, and
+  /// only for a focusable peer.
   void setFocus() override;
   bool hasFocus() override;
   void setToolTip(const char* text) override;

@@ -7,11 +7,12 @@ namespace mui {
 
 MuDialogHeadless::MuDialogHeadless(const char* name, const char* title, const Size* size, int style,
                                    MuDialog* parentDialog, os::Window* parentWindow)
-    : MuDialog(name, size, style, parentDialog, parentWindow), parentDialog_(parentDialog),
-      title_(title ? title : "") {
+    : MuDialog(name, size, style, parentDialog, parentWindow), title_(title ? title : "") {
   MuCommonHeadless::Traits traits;
   traits.startsVisible = false;
-  setCommon(std::make_unique<MuCommonHeadless>(this, traits));
+  auto peer = std::make_unique<MuCommonHeadless>(this, traits);
+  window_ = std::make_unique<WindowHeadless>(peer.get());
+  setCommon(std::move(peer));
   if (size)
     common()->setSize(*size);
 }
@@ -30,13 +31,21 @@ Size MuDialogHeadless::getDesktopSize() {
   return MuiHeadless::instance().desktopSize();
 }
 
-void MuDialogHeadless::centre() {
-  Rect area = Rect::at({0, 0}, getDesktopSize());
-  if (parentDialog_ && parentDialog_->isVisible())
-    area = Rect::at(parentDialog_->getPosition(), parentDialog_->getSize());
-  const Size size = getSize();
-  MuElement::setPosition(
-      {area.tl.x + (area.width() - size.width) / 2, area.tl.y + (area.height() - size.height) / 2});
+bool MuDialogHeadless::pressMouse(MuElement* element, Point position) {
+  return mousePressed(element, position, getPosition().translate(position));
+}
+
+void MuDialogHeadless::dragMouseTo(Point position) {
+  mouseMoved(position);
+  mouseReleased();
+}
+
+bool MuDialogHeadless::pressOutside() {
+  return (dialogStyle() & DismissOnOutsideClick) && dismisser().pressed(PopupDismisser::Elsewhere);
+}
+
+void MuDialogHeadless::captureMouse(bool capture) {
+  MuCommonHeadless::of(this)->record(capture ? "captureMouse 1" : "captureMouse 0");
 }
 
 } // namespace mui

@@ -2,10 +2,12 @@
 
 #include "mui/qt/EventGlueQt.h"
 #include "mui/qt/KeysQt.h"
+#include "mui/qt/MuCommonQt.h"
 #include "mui/qt/MuDialogQt.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QResizeEvent>
 
 namespace mui {
@@ -17,10 +19,13 @@ bool DialogWindowQt::event(QEvent* event) {
   if (dialog_) {
     switch (event->type()) {
     case QEvent::WindowActivate:
-      callFromQt([this] { dialog_->notify(dialog_, EventWindowActive); });
+    case QEvent::WindowDeactivate: {
+      const bool active = event->type() == QEvent::WindowActivate;
+      callFromQt([this, active] { dialog_->activationChanged(active); });
       break;
-    case QEvent::WindowDeactivate:
-      callFromQt([this] { dialog_->notify(dialog_, EventWindowInactive); });
+    }
+    case QEvent::UngrabMouse:
+      callFromQt([this] { dialog_->mouseReleased(); });
       break;
     case QEvent::ThemeChange:
     case QEvent::ApplicationPaletteChange:
@@ -62,6 +67,46 @@ void DialogWindowQt::resizeEvent(QResizeEvent* event) {
   const Size size{event->size().width(), event->size().height()};
   if (size != dialog_->laidOutSize())
     callFromQt([this] { dialog_->layout(); });
+}
+
+} // namespace mui
+
+namespace mui {
+
+namespace {
+
+Point screenPoint(const QMouseEvent* event) {
+  const QPoint global = event->globalPosition().toPoint();
+  return {global.x(), global.y()};
+}
+
+} // namespace
+
+void DialogWindowQt::mousePressEvent(QMouseEvent* event) {
+  bool taken = false;
+  if (dialog_ && event->button() == Qt::LeftButton) {
+    const QPoint position = event->position().toPoint();
+    callFromQt([&] {
+      MuElement* element = MuCommonQt::elementShowing(dialog_, childAt(position));
+      taken = dialog_->mousePressed(element ? element : dialog_, {position.x(), position.y()},
+                                    screenPoint(event));
+    });
+  }
+  event->setAccepted(taken);
+}
+
+void DialogWindowQt::mouseMoveEvent(QMouseEvent* event) {
+  if (dialog_ && dialog_->isDragging())
+    callFromQt([&] { dialog_->mouseMoved(screenPoint(event)); });
+  else
+    event->ignore();
+}
+
+void DialogWindowQt::mouseReleaseEvent(QMouseEvent* event) {
+  if (dialog_ && dialog_->isDragging() && event->button() == Qt::LeftButton)
+    callFromQt([this] { dialog_->mouseReleased(); });
+  else
+    event->ignore();
 }
 
 } // namespace mui

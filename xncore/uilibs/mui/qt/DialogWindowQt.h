@@ -1,6 +1,7 @@
 // mui::DialogWindowQt: the top-level widget of a MuDialogQt. It hands what
 // the window system does to the window (closing, keys, activation, resizing,
-// theme changes) to its dialog, and forgets the dialog when it goes.
+// theme changes, presses on the background) to its dialog, and forgets the
+// dialog when it goes.
 #pragma once
 
 #include <QWidget>
@@ -20,6 +21,10 @@ protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  /// Presses that no control took come here from the widget they landed on.
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
   MuDialogQt* dialog_;

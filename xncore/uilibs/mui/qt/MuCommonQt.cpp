@@ -22,6 +22,18 @@ namespace {
 constexpr int toolTipWidth = 300;
 constexpr int toolTipShowMs = 30000;
 
+MuElement* findByWidget(MuElement* element, const QWidget* widget) {
+  if (MuCommonQt* peer = MuCommonQt::of(element); peer && peer->widget() == widget)
+    return element;
+  if (auto* container = dynamic_cast<MuContainer*>(element)) {
+    for (int i = 0, n = container->childCount(); i < n; ++i) {
+      if (MuElement* found = findByWidget(container->getChild(i), widget))
+        return found;
+    }
+  }
+  return nullptr;
+}
+
 int lineCount(const QString& text) {
   return static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
 }
@@ -65,6 +77,14 @@ QWidget* MuCommonQt::parentWidgetFor(MuContainer* parent) {
   for (MuElement* element = parent; element; element = element->parent()) {
     if (MuCommonQt* peer = of(element))
       return peer->childArea();
+  }
+  return nullptr;
+}
+
+MuElement* MuCommonQt::elementShowing(MuElement* root, QWidget* widget) {
+  for (; widget; widget = widget->parentWidget()) {
+    if (MuElement* found = findByWidget(root, widget))
+      return found;
   }
   return nullptr;
 }
@@ -115,7 +135,7 @@ void MuCommonQt::setEnabled(bool enabled) {
 
 void MuCommonQt::setFocus() {
   MuDialog* dialog = element_->rootDialog();
-  if (dialog && dialog->isVisible())
+  if (dialog && (dialog->isVisible() || dialog->runningCodeModal()))
     widget_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -68,6 +68,9 @@ public:
   /// The widget that the children of `parent` go into: that of its nearest
   /// ancestor (itself included) with a Qt peer; null for none.
   static QWidget* parentWidgetFor(MuContainer* parent);
+  /// The element of `root`'s tree that shows `widget`, or else the nearest of
+  /// its parent widgets; null when none belongs to the tree.
+  static MuElement* elementShowing(MuElement* root, QWidget* widget);
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -3,7 +3,9 @@
 #include "mui/qt/DialogWindowQt.h"
 #include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuCommonQt.h"
+#include "mui/qt/PopupDismisserQt.h"
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -30,21 +32,19 @@ Qt::WindowFlags windowFlags(int style) {
   return flags;
 }
 
-QWidget* windowOf(MuDialog* dialog) {
-  auto* qt = dynamic_cast<MuDialogQt*>(dialog);
-  return qt ? qt->window() : nullptr;
-}
-
 } // namespace
 
 MuDialogQt::MuDialogQt(const char* name, const char* title, const Size* size, int style,
                        MuDialog* parentDialog, os::Window* parentWindow)
-    : MuDialog(name, size, style, parentDialog, parentWindow) {
-  window_ = new DialogWindowQt(this, windowOf(parentDialog), windowFlags(style));
-  if (isModal() && parentDialog)
-    window_->setWindowModality(Qt::WindowModal);
-  if (style & MuDialog::Popup)
-    window_->setAttribute(Qt::WA_ShowWithoutActivating);
+    : MuDialog(name, size, style, parentDialog, parentWindow),
+      window_(
+          new DialogWindowQt(this, WindowQt::widgetOf(this->parentWindow()), windowFlags(style))),
+      windowService_(window_.data()) {
+  applyModality();
+  window_->setAttribute(Qt::WA_ShowWithoutActivating,
+                        (style & (MuDialog::Popup | MuDialog::KeepForeground)) != 0);
+  if (style & MuDialog::DismissOnOutsideClick)
+    new PopupDismisserQt(dismisser(), window_, nullptr);
   window_->setWindowTitle(QString::fromUtf8(title ? title : ""));
   setCommon(std::make_unique<MuCommonQt>(this, window_.data()));
   if (size)
@@ -63,6 +63,24 @@ MuDialog* MuDialogQt::make(const char* name, const char* title, const Size* size
 
 QWidget* MuDialogQt::window() const {
   return window_.data();
+}
+
+// Without a parent Qt's window modality would block every window.
+void MuDialogQt::applyModality() {
+  window_->setWindowModality(isModal() && window_->parentWidget() ? Qt::WindowModal : Qt::NonModal);
+}
+
+void MuDialogQt::setParentWindow(os::Window* window) {
+  MuDialog::setParentWindow(window);
+  const bool shown = window_->isVisible();
+  window_->setParent(WindowQt::widgetOf(window), window_->windowFlags());
+  applyModality();
+  if (shown)
+    window_->show();
+}
+
+void MuDialogQt::setClipboardText(const char* text) {
+  QGuiApplication::clipboard()->setText(QString::fromUtf8(text ? text : ""));
 }
 
 void MuDialogQt::setTitle(const char* title) {
@@ -118,23 +136,20 @@ void MuDialogQt::setButton(int which, MuElement* element) {
     defaultWidget_->setDefault(true);
 }
 
-void MuDialogQt::centre() {
-  QRect area;
-  if (QWidget* parent = window_->parentWidget(); parent && parent->isVisible())
-    area = parent->frameGeometry();
-  else if (const QScreen* screen = QGuiApplication::primaryScreen())
-    area = screen->availableGeometry();
-  const QSize size = window_->frameGeometry().size();
-  MuElement::setPosition({area.x() + (area.width() - size.width()) / 2,
-                          area.y() + (area.height() - size.height()) / 2});
-}
-
 void MuDialogQt::showWindow(bool show) {
   MuDialog::showWindow(show);
-  if (show && !(dialogStyle() & Popup)) {
-    window_->raise();
+  if (!show)
+    return;
+  window_->raise();
+  if (!(dialogStyle() & (Popup | KeepForeground)))
     window_->activateWindow();
-  }
+}
+
+void MuDialogQt::captureMouse(bool capture) {
+  if (capture)
+    window_->grabMouse(Qt::SizeAllCursor);
+  else
+    window_->releaseMouse();
 }
 
 } // namespace mui

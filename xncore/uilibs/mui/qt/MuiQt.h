@@ -7,6 +7,7 @@
 
 #include "mui/MuStyle.h"
 #include "mui/Mui.h"
+#include "mui/qt/QuitRequestsQt.h"
 #include "plat/SysColors.h"
 
 #include <QColor>
@@ -40,6 +41,7 @@ public:
 
 private:
   SysColorsQt colours_;
+  QuitRequestsQt quitRequests_;
   QFont base_;
   /// The message font's pixel height at the default "ppmm".
   int baseHeight_;
