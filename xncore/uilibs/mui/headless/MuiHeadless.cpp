@@ -3,8 +3,10 @@
 #include "mui/headless/MuButtonHeadless.h"
 #include "mui/headless/MuCheckHeadless.h"
 #include "mui/headless/MuDialogHeadless.h"
+#include "mui/headless/MuFrameHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
 #include "mui/headless/MuSliderHeadless.h"
+#include "mui/headless/MuStaticHeadless.h"
 #include "plat/Assertion.h"
 
 namespace mui {
@@ -20,6 +22,8 @@ void installHeadlessBinding(MuiHeadless& root) {
   muButtonFactory = &MuButtonHeadless::make;
   muCheckFactory = &MuCheckHeadless::make;
   muSliderFactory = &MuSliderHeadless::make;
+  muFrameFactory = &MuFrameHeadless::make;
+  muStaticFactory = &MuStaticHeadless::make;
 }
 
 } // namespace mui

@@ -4,6 +4,7 @@
 #include "mui/MuDialog.h"
 #include "mui/qt/EventGlueQt.h"
 #include "mui/qt/MuiQt.h"
+#include "mui/qt/TextMeasureQt.h"
 #include "xnutil/MouseCallback.h"
 
 #include <QApplication>
@@ -12,7 +13,6 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QTextDocument>
-#include <climits>
 
 namespace mui {
 
@@ -32,10 +32,6 @@ MuElement* findByWidget(MuElement* element, const QWidget* widget) {
     }
   }
   return nullptr;
-}
-
-int lineCount(const QString& text) {
-  return static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
 }
 
 } // namespace
@@ -191,20 +187,12 @@ Point MuCommonQt::getPosition() {
 }
 
 int MuCommonQt::minWidth(int) {
-  const QFontMetrics metrics(MuiQt::instance().font(element_->effectiveStyle()));
-  const int flags = traits_.mnemonics ? Qt::TextShowMnemonic : 0;
-  return metrics.boundingRect(QRect(0, 0, INT_MAX / 2, INT_MAX / 2), flags, text_).width();
+  return textWidthQt(MuiQt::instance().font(element_->effectiveStyle()), text_, traits_.mnemonics);
 }
 
 int MuCommonQt::minHeight(int width) {
-  if (width < 1)
-    return 0;
-  const QFontMetrics metrics(MuiQt::instance().font(element_->effectiveStyle()));
-  if (traits_.singleLine || width == INT_MAX)
-    return metrics.height() * lineCount(text_);
-  const int flags = Qt::TextWordWrap | (traits_.mnemonics ? Qt::TextShowMnemonic : 0);
-  const QString shown = text_.isEmpty() ? QStringLiteral(" ") : text_;
-  return metrics.boundingRect(QRect(0, 0, width, INT_MAX / 2), flags, shown).height();
+  return textHeightQt(MuiQt::instance().font(element_->effectiveStyle()), text_, width,
+                      traits_.mnemonics, traits_.singleLine);
 }
 
 void MuCommonQt::styleChanged() {

@@ -60,6 +60,7 @@ public:
   const QString& text() const noexcept { return text_; }
   void setText(const QString& text);
   void setText(const char* text) { setText(QString::fromUtf8(text ? text : "")); }
+  void setSingleLine(bool singleLine) noexcept { traits_.singleLine = singleLine; }
   /// Names the widget again after the element's label changed.
   void updateAccessibleName();
 

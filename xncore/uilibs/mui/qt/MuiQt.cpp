@@ -5,8 +5,10 @@
 #include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuDialogQt.h"
+#include "mui/qt/MuFrameQt.h"
 #include "mui/qt/MuLayoutQt.h"
 #include "mui/qt/MuSliderQt.h"
+#include "mui/qt/MuStaticQt.h"
 #include "plat/Assertion.h"
 
 #include <QApplication>
@@ -124,6 +126,8 @@ void installQtBinding(MuiQt& root) {
   muButtonFactory = &MuButtonQt::make;
   muCheckFactory = &MuCheckQt::make;
   muSliderFactory = &MuSliderQt::make;
+  muFrameFactory = &MuFrameQt::make;
+  muStaticFactory = &MuStaticQt::make;
 }
 
 } // namespace mui
