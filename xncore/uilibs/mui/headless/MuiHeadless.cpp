@@ -5,6 +5,7 @@
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuFrameHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
+#include "mui/headless/MuListHeadless.h"
 #include "mui/headless/MuSliderHeadless.h"
 #include "mui/headless/MuStaticHeadless.h"
 #include "plat/Assertion.h"
@@ -24,6 +25,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muSliderFactory = &MuSliderHeadless::make;
   muFrameFactory = &MuFrameHeadless::make;
   muStaticFactory = &MuStaticHeadless::make;
+  muListFactory = &MuListHeadless::make;
 }
 
 } // namespace mui

@@ -7,6 +7,7 @@
 #include "mui/qt/MuDialogQt.h"
 #include "mui/qt/MuFrameQt.h"
 #include "mui/qt/MuLayoutQt.h"
+#include "mui/qt/MuListQt.h"
 #include "mui/qt/MuSliderQt.h"
 #include "mui/qt/MuStaticQt.h"
 #include "plat/Assertion.h"
@@ -128,6 +129,7 @@ void installQtBinding(MuiQt& root) {
   muSliderFactory = &MuSliderQt::make;
   muFrameFactory = &MuFrameQt::make;
   muStaticFactory = &MuStaticQt::make;
+  muListFactory = &MuListQt::make;
 }
 
 } // namespace mui
