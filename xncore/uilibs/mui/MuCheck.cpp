@@ -68,15 +68,19 @@ void MuCheck::setLabel(const char* label) {
   MeasurePass::invalidate();
 }
 
-plat::String MuCheck::stateImageName() {
+MuCheck::State MuCheck::state() {
+  return isIndeterminate() ? Indeterminate : getValue() ? Set : Unset;
+}
+
+plat::String MuCheck::imageName(int state) const {
+  static const char* const prefixes[] = {"off", "on", "ind"};
   if (imageBase_.isNull())
     return plat::String();
-  const char* state = isIndeterminate() ? "ind" : getValue() ? "on" : "off";
-  return plat::strFormat("%s-%s", state, imageBase_.get());
+  return plat::strFormat("%s-%s", prefixes[state], imageBase_.get());
 }
 
 void MuCheck::clickedByUser() {
-  setValue(!getValue() && !isIndeterminate());
+  setValue(state() == Unset);
   notify(this, EventChanged);
 }
 

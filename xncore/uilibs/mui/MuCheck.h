@@ -16,6 +16,7 @@ namespace mui {
 class MuCheck : public MuElement {
 public:
   enum Type : int { Normal = 0, Radio = 1 };
+  enum State : int { Unset = 0, Set = 1, Indeterminate = 2 };
 
   /// The radios that exclude each other. Its changed() sets the member that
   /// raised the event and clears the others, before any other observer of
@@ -61,9 +62,10 @@ public:
   int checkType() const noexcept { return checkType_; }
   Group* group() const noexcept { return group_; }
   const char* imageBase() const noexcept { return imageBase_.get(); }
-  /// The name of the image for the present state, as "off-", "on-" or "ind-"
-  /// and the image base; null without images.
-  plat::String stateImageName();
+  State state();
+  /// The name of the image that stands for `state`: "off-", "on-" or "ind-"
+  /// before the image base; null without images.
+  plat::String imageName(int state) const;
   /// The width of the box with its gap to the label, and the box's height.
   Size boxSize();
 

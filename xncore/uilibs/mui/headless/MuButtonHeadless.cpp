@@ -3,6 +3,7 @@
 #include "mui/headless/MuCommonHeadless.h"
 #include "plat/DString.h"
 #include "rfb/PixelBuffer.h"
+#include "ui/NamedImage.h"
 
 namespace mui {
 
@@ -34,7 +35,7 @@ void MuButtonHeadless::setLabel(const char* label) {
 
 void MuButtonHeadless::setImage(const char* name, const Size* size, int state) {
   MuButton::setImage(name, size, state);
-  imageSizes_[state] = size ? *size : Size();
+  imageSizes_[state] = ui::getNamedImage(name, size ? *size : Size())->size();
   peer()->record(plat::strFormat("setImage %s %d", name ? name : "(null)", state).get());
 }
 

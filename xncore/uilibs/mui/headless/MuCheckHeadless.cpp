@@ -2,6 +2,7 @@
 
 #include "mui/headless/MuCommonHeadless.h"
 #include "mui/headless/TextModelHeadless.h"
+#include "ui/NamedImage.h"
 
 namespace mui {
 
@@ -50,7 +51,7 @@ int MuCheckHeadless::zeroWidth() {
 }
 
 Size MuCheckHeadless::imageSize() {
-  return {};
+  return ui::getNamedImage(imageName(Unset).get(), Size())->size();
 }
 
 } // namespace mui

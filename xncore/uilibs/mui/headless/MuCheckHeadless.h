@@ -30,8 +30,6 @@ protected:
   Size imageSize() override;
 
 private:
-  enum State { Unset, Set, Indeterminate };
-
   MuCheckHeadless(MuContainer* parent, const char* name, const char* label, int type,
                   MuCheck* groupPeer, const char* imageBase);
 

@@ -58,6 +58,12 @@ void MuButtonQt::setLabel(const char* label) {
   widget()->setText(QString::fromUtf8(label ? label : ""));
 }
 
+void MuButtonQt::setImage(const char* name, const Size* size, int state) {
+  MuButton::setImage(name, size, state);
+  images_[state] = namedPixmap(name, size ? *size : Size());
+  widget()->update();
+}
+
 void MuButtonQt::setImageBuffer(rfb::PixelBuffer* buffer, bool own, int state) {
   std::unique_ptr<rfb::PixelBuffer> owned(own ? buffer : nullptr);
   images_[state] = buffer ? QPixmap::fromImage(imageFromBuffer(*buffer)) : QPixmap();

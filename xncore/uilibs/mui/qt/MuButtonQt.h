@@ -19,6 +19,7 @@ public:
                         int options, int textAlign);
 
   void setLabel(const char* label) override;
+  void setImage(const char* name, const Size* size, int state) override;
   void setImageBuffer(rfb::PixelBuffer* buffer, bool own, int state) override;
 
   QPushButton* widget() const;

@@ -4,6 +4,7 @@
 #include "mui/qt/EventGlueQt.h"
 #include "mui/qt/MuCommonQt.h"
 #include "mui/qt/MuiQt.h"
+#include "mui/qt/PixelImageQt.h"
 
 #include <QFontMetrics>
 #include <QStyleOptionButton>
@@ -24,6 +25,10 @@ MuCheckQt::MuCheckQt(MuContainer* parent, const char* name, const char* label, i
   // Only a group's first member is a tab stop; the arrow keys reach the others.
   if (groupPeer)
     button->setFocusPolicy(Qt::ClickFocus);
+  if (imageBase) {
+    for (int state : {Unset, Set, Indeterminate})
+      images_[state] = namedPixmap(imageName(state).get(), Size());
+  }
   MuCommonQt::Traits traits;
   traits.mnemonics = true;
   setCommon(std::make_unique<MuCommonQt>(this, button, traits));
@@ -79,7 +84,7 @@ void MuCheckQt::setLabel(const char* label) {
 }
 
 QPixmap MuCheckQt::stateImage() {
-  return QPixmap();
+  return images_[state()];
 }
 
 int MuCheckQt::zeroWidth() {
@@ -87,7 +92,8 @@ int MuCheckQt::zeroWidth() {
 }
 
 Size MuCheckQt::imageSize() {
-  return {};
+  const QSize size = images_[0].size();
+  return {size.width(), size.height()};
 }
 
 // The style puts the label where its contents begin; the box is as high as

@@ -41,6 +41,8 @@ private:
 
   /// A radio button has no third state of its own; it shows as unset.
   bool radioIndeterminate_ = false;
+  /// The unset, set and indeterminate images, when the check has them.
+  QPixmap images_[3];
 };
 
 } // namespace mui

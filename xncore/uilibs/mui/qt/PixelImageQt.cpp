@@ -2,6 +2,7 @@
 
 #include "rfb/PixelBuffer.h"
 #include "rfb/PixelCodec.h"
+#include "ui/NamedImage.h"
 
 namespace mui {
 
@@ -25,6 +26,10 @@ QImage imageFromBuffer(rfb::PixelBuffer& buffer) {
     }
   }
   return image;
+}
+
+QPixmap namedPixmap(const char* name, Size size) {
+  return QPixmap::fromImage(imageFromBuffer(*ui::getNamedImage(name, size)));
 }
 
 } // namespace mui

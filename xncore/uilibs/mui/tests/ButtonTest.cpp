@@ -53,11 +53,24 @@ TEST_F(Buttons, MeasureFollowsKindOptionsAndImage) {
   for (const Row& r : rows) {
     MuButton* button = MuButton::create(dialog.get(), "b", r.label, r.type, r.options);
     if (r.image.width > 0)
-      button->setImage("picture", &r.image, MuButton::ImageNormal);
+      button->setImageBuffer(new rfb::ManagedPixelBuffer(rfb::PixelFormat(), Rect::at({}, r.image)),
+                             true, MuButton::ImageNormal);
     EXPECT_EQ(button->minWidth(0), r.width) << r.label << " " << r.options;
     EXPECT_EQ(button->minHeight(INT_MAX), r.height) << r.label << " " << r.options;
     dialog->remove(button);
   }
+}
+
+TEST_F(Buttons, NamedImagesComeFromTheProgramsImages) {
+  MuButton* button = MuButton::create(dialog.get(), "b", "");
+  const Size size(16, 16);
+  button->setImage("accept", &size, MuButton::ImageNormal);
+  EXPECT_EQ(button->minWidth(0), 16 + 4);
+  EXPECT_EQ(button->minHeight(INT_MAX), 16 + 6);
+  // A name without an image shows nothing and takes no room.
+  button->setImage("no-such-image", nullptr, MuButton::ImageNormal);
+  EXPECT_EQ(button->minWidth(0), 0);
+  EXPECT_THAT(button->describe().get(), testing::EndsWith("image no-such-image\n"));
 }
 
 TEST_F(Buttons, LabelsWrapAndAShieldTakesRoom) {

@@ -37,6 +37,22 @@ TEST_F(Checks, TheBoxStandsBesideTheLabel) {
   EXPECT_EQ(check->minWidth(0), 4 * 8 + 13 + 4);
 }
 
+// Images replace the box, with 6 units between image and label. At "ppmm" 8
+// the images are drawn for double density, 26 pixels square.
+TEST_F(Checks, StateImagesReplaceTheBox) {
+  ppmmParameter.setInt(8, 10);
+  MuCheck* check = MuCheck::create(dialog.get(), "deny", "Deny", MuCheck::Normal, nullptr, "check");
+  MuCheck* plain = MuCheck::create(dialog.get(), "allow", "Deny");
+  EXPECT_EQ(check->minWidth(0), 28 + 6 + 26);
+  EXPECT_EQ(check->minHeight(INT_MAX), 26);
+  EXPECT_EQ(plain->minWidth(0), 28 + 26 + 3);
+  EXPECT_EQ(plain->minHeight(INT_MAX), 26);
+  EXPECT_EQ(check->imageName(check->state()), plat::String("off-check"));
+  check->setIndeterminate();
+  EXPECT_EQ(check->imageName(check->state()), plat::String("ind-check"));
+  EXPECT_TRUE(plain->imageName(MuCheck::Set).isNull());
+}
+
 TEST_F(Checks, AClickTogglesAndSetIndeterminateGivesWay) {
   MuCheck* check = MuCheck::create(dialog.get(), "allow", "&Allow");
   dialog->setVisible(true);

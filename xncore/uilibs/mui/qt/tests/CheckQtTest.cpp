@@ -92,6 +92,30 @@ TEST_F(ChecksQt, DisabledAndLockedChecksTakeNoInput) {
   EXPECT_THAT(log.take(), testing::IsEmpty());
 }
 
+// A check with images paints the image of its state where the box would be.
+TEST_F(ChecksQt, StateImagesArePaintedInPlaceOfTheBox) {
+  MuCheck* pictured =
+      MuCheck::create(column, "pictured", "Pictured", MuCheck::Normal, nullptr, "check");
+  dialog->relayout();
+  QWidget* w = widget(pictured);
+  const int side = pictured->boxSize().height;
+  EXPECT_EQ(side, 13);
+  auto imageArea = [&] {
+    return w->grab().toImage().copy(0, (w->height() - side) / 2, side, side);
+  };
+  const QImage unset = imageArea();
+  pictured->setValue(true);
+  const QImage set = imageArea();
+  pictured->setIndeterminate();
+  const QImage indeterminate = imageArea();
+  EXPECT_NE(unset, set);
+  EXPECT_NE(set, indeterminate);
+  EXPECT_NE(unset, indeterminate);
+  QTest::mouseClick(w, Qt::LeftButton);
+  EXPECT_EQ(imageArea(), unset);
+  EXPECT_THAT(log.take(), testing::ElementsAre("pictured changed"));
+}
+
 // The label starts where the style's box ends, so the measure makes room for both.
 TEST_F(ChecksQt, MeasureHoldsTheStyleBoxAndTheLabel) {
   const QFontMetrics metrics(widget(box)->font());
