@@ -3,6 +3,7 @@
 #include "mui/headless/MuButtonHeadless.h"
 #include "mui/headless/MuCheckHeadless.h"
 #include "mui/headless/MuDialogHeadless.h"
+#include "mui/headless/MuEditHeadless.h"
 #include "mui/headless/MuFrameHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
 #include "mui/headless/MuListHeadless.h"
@@ -23,6 +24,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muButtonFactory = &MuButtonHeadless::make;
   muCheckFactory = &MuCheckHeadless::make;
   muSliderFactory = &MuSliderHeadless::make;
+  muEditFactory = &MuEditHeadless::make;
   muFrameFactory = &MuFrameHeadless::make;
   muStaticFactory = &MuStaticHeadless::make;
   muListFactory = &MuListHeadless::make;

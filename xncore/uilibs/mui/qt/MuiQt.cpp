@@ -5,6 +5,7 @@
 #include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuDialogQt.h"
+#include "mui/qt/MuEditQt.h"
 #include "mui/qt/MuFrameQt.h"
 #include "mui/qt/MuLayoutQt.h"
 #include "mui/qt/MuListQt.h"
@@ -127,6 +128,7 @@ void installQtBinding(MuiQt& root) {
   muButtonFactory = &MuButtonQt::make;
   muCheckFactory = &MuCheckQt::make;
   muSliderFactory = &MuSliderQt::make;
+  muEditFactory = &MuEditQt::make;
   muFrameFactory = &MuFrameQt::make;
   muStaticFactory = &MuStaticQt::make;
   muListFactory = &MuListQt::make;
