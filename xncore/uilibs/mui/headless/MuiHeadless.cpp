@@ -5,10 +5,13 @@
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuEditHeadless.h"
 #include "mui/headless/MuFrameHeadless.h"
+#include "mui/headless/MuImageHeadless.h"
 #include "mui/headless/MuLayoutHeadless.h"
+#include "mui/headless/MuLineHeadless.h"
 #include "mui/headless/MuListHeadless.h"
 #include "mui/headless/MuSliderHeadless.h"
 #include "mui/headless/MuStaticHeadless.h"
+#include "mui/headless/MuTextHeadless.h"
 #include "plat/Assertion.h"
 
 namespace mui {
@@ -28,6 +31,9 @@ void installHeadlessBinding(MuiHeadless& root) {
   muFrameFactory = &MuFrameHeadless::make;
   muStaticFactory = &MuStaticHeadless::make;
   muListFactory = &MuListHeadless::make;
+  muImageFactory = &MuImageHeadless::make;
+  muLineFactory = &MuLineHeadless::make;
+  muTextFactory = &MuTextHeadless::make;
 }
 
 } // namespace mui

@@ -7,10 +7,13 @@
 #include "mui/qt/MuDialogQt.h"
 #include "mui/qt/MuEditQt.h"
 #include "mui/qt/MuFrameQt.h"
+#include "mui/qt/MuImageQt.h"
 #include "mui/qt/MuLayoutQt.h"
+#include "mui/qt/MuLineQt.h"
 #include "mui/qt/MuListQt.h"
 #include "mui/qt/MuSliderQt.h"
 #include "mui/qt/MuStaticQt.h"
+#include "mui/qt/MuTextQt.h"
 #include "plat/Assertion.h"
 
 #include <QApplication>
@@ -132,6 +135,9 @@ void installQtBinding(MuiQt& root) {
   muFrameFactory = &MuFrameQt::make;
   muStaticFactory = &MuStaticQt::make;
   muListFactory = &MuListQt::make;
+  muImageFactory = &MuImageQt::make;
+  muLineFactory = &MuLineQt::make;
+  muTextFactory = &MuTextQt::make;
 }
 
 } // namespace mui

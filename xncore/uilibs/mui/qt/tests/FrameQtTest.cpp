@@ -15,10 +15,6 @@ namespace {
 
 using FrameQt = QtForm;
 
-QImage grabOf(MuElement* element) {
-  return MuCommonQt::of(element)->widget()->grab().toImage();
-}
-
 TEST_F(FrameQt, EachTypeHasItsWidgetAndHoldsItsChild) {
   const struct {
     int type;

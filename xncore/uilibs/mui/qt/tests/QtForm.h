@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QImage>
 #include <QLabel>
 #include <memory>
 
@@ -53,6 +54,11 @@ protected:
   }
 
   QWidget* window() { return static_cast<MuDialogQt*>(dialog.get())->window(); }
+
+  /// What the element's widget shows, as an image.
+  static QImage grabOf(MuElement* element) {
+    return MuCommonQt::of(element)->widget()->grab().toImage();
+  }
 
   /// Lets Qt handle its events for `ms` milliseconds.
   static void processFor(int ms) {
