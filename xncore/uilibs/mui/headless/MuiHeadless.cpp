@@ -9,6 +9,7 @@
 #include "mui/headless/MuLayoutHeadless.h"
 #include "mui/headless/MuLineHeadless.h"
 #include "mui/headless/MuListHeadless.h"
+#include "mui/headless/MuPagerHeadless.h"
 #include "mui/headless/MuSliderHeadless.h"
 #include "mui/headless/MuStaticHeadless.h"
 #include "mui/headless/MuTextHeadless.h"
@@ -34,6 +35,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muImageFactory = &MuImageHeadless::make;
   muLineFactory = &MuLineHeadless::make;
   muTextFactory = &MuTextHeadless::make;
+  muPagerFactory = &MuPagerHeadless::make;
 }
 
 } // namespace mui

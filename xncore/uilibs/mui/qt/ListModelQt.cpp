@@ -27,8 +27,8 @@ QVariant ListModelQt::data(const QModelIndex& index, int role) const {
   case Qt::DisplayRole:
     return image ? QVariant() : QVariant(QString::fromUtf8(list_->cell(row, column)));
   case Qt::DecorationRole: {
-    const QPixmap pixmap = image ? this->image(list_->cell(row, column)) : QPixmap();
-    return pixmap.isNull() ? QVariant() : QVariant(pixmap);
+    const QIcon icon = image ? this->image(list_->cell(row, column)) : QIcon();
+    return icon.isNull() ? QVariant() : QVariant(icon);
   }
   case Qt::ForegroundRole:
   case Qt::BackgroundRole:
@@ -47,20 +47,25 @@ QVariant ListModelQt::data(const QModelIndex& index, int role) const {
   }
 }
 
-QPixmap ListModelQt::image(const char* name) const {
+QIcon ListModelQt::image(const char* name) const {
   const QByteArray key(name);
   auto found = images_.constFind(key);
   if (found != images_.constEnd())
     return *found;
-  QPixmap pixmap;
+  QIcon icon;
   if (!key.isEmpty()) {
     const int side = Mui::metric(MetricListImageSize);
     // The cache of named images keeps the pixels for the whole run.
     const auto named = ui::getNamedImage(name, {side, side});
-    pixmap = QPixmap::fromImage(PixelBufferQt::wrap(*named));
+    const QPixmap pixmap = QPixmap::fromImage(PixelBufferQt::wrap(*named));
+    // A selected row shows the image as it is, not tinted with the selection.
+    if (!pixmap.isNull()) {
+      icon.addPixmap(pixmap, QIcon::Normal);
+      icon.addPixmap(pixmap, QIcon::Selected);
+    }
   }
-  images_.insert(key, pixmap);
-  return pixmap;
+  images_.insert(key, icon);
+  return icon;
 }
 
 QVariant ListModelQt::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -7,7 +7,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
-#include <QPixmap>
+#include <QIcon>
 
 namespace mui {
 
@@ -33,12 +33,12 @@ public:
   void rowChanged(int row);
 
 private:
-  /// The named image at the list's image size; a null pixmap for an empty
+  /// The named image at the list's image size; a null icon for an empty
   /// name or an image that can't be found. Each name is loaded once.
-  QPixmap image(const char* name) const;
+  QIcon image(const char* name) const;
 
   MuList* list_;
-  mutable QHash<QByteArray, QPixmap> images_;
+  mutable QHash<QByteArray, QIcon> images_;
   int rows_ = 0;
   int columns_ = 0;
 };

@@ -11,6 +11,7 @@
 #include "mui/qt/MuLayoutQt.h"
 #include "mui/qt/MuLineQt.h"
 #include "mui/qt/MuListQt.h"
+#include "mui/qt/MuPagerQt.h"
 #include "mui/qt/MuSliderQt.h"
 #include "mui/qt/MuStaticQt.h"
 #include "mui/qt/MuTextQt.h"
@@ -138,6 +139,7 @@ void installQtBinding(MuiQt& root) {
   muImageFactory = &MuImageQt::make;
   muLineFactory = &MuLineQt::make;
   muTextFactory = &MuTextQt::make;
+  muPagerFactory = &MuPagerQt::make;
 }
 
 } // namespace mui

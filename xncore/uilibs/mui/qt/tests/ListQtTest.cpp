@@ -12,7 +12,7 @@
 #include <gmock/gmock.h>
 
 #include <QHeaderView>
-#include <QPixmap>
+#include <QIcon>
 #include <QTest>
 
 namespace mui::test {
@@ -92,8 +92,8 @@ TEST_F(ListsQt, TheViewShowsColumnsHeadersAndImages) {
   EXPECT_EQ(view->header()->sectionSize(0), image);
   EXPECT_EQ(view->header()->sectionSize(1), view->viewport()->width() - image);
   EXPECT_EQ(view->model()->headerData(1, Qt::Horizontal).toString(), "Name");
-  const auto pixmap = [view](int row) {
-    return view->model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>();
+  const auto pixmap = [view, image](int row) {
+    return view->model()->index(row, 0).data(Qt::DecorationRole).value<QIcon>().pixmap(image);
   };
   EXPECT_EQ(pixmap(0).size(), QSize(image, image));
   EXPECT_FALSE(pixmap(0).toImage() == pixmap(1).toImage()) << "user and group look alike";
