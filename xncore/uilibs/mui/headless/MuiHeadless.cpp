@@ -10,7 +10,9 @@
 #include "mui/headless/MuLineHeadless.h"
 #include "mui/headless/MuListHeadless.h"
 #include "mui/headless/MuPagerHeadless.h"
+#include "mui/headless/MuScrollHeadless.h"
 #include "mui/headless/MuSliderHeadless.h"
+#include "mui/headless/MuSplitterHeadless.h"
 #include "mui/headless/MuStaticHeadless.h"
 #include "mui/headless/MuTextHeadless.h"
 #include "plat/Assertion.h"
@@ -36,6 +38,8 @@ void installHeadlessBinding(MuiHeadless& root) {
   muLineFactory = &MuLineHeadless::make;
   muTextFactory = &MuTextHeadless::make;
   muPagerFactory = &MuPagerHeadless::make;
+  muScrollFactory = &MuScrollHeadless::make;
+  muSplitterFactory = &MuSplitterHeadless::make;
 }
 
 } // namespace mui

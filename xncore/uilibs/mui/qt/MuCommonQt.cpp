@@ -2,6 +2,7 @@
 
 #include "mui/MuContainer.h"
 #include "mui/MuDialog.h"
+#include "mui/MuScroll.h"
 #include "mui/qt/EventGlueQt.h"
 #include "mui/qt/MuiQt.h"
 #include "mui/qt/TextMeasureQt.h"
@@ -11,7 +12,6 @@
 #include <QContextMenuEvent>
 #include <QFontMetrics>
 #include <QMouseEvent>
-#include <QScrollArea>
 #include <QTextDocument>
 
 namespace mui {
@@ -211,14 +211,16 @@ void MuCommonQt::styleChanged() {
   widget_->setPalette(palette);
 }
 
+// The nearest scroll above the element scrolls the rectangle, taken into
+// the coordinates of its child, into view.
 void MuCommonQt::scrollIntoView(Rect rect) {
-  for (QWidget* above = widget_->parentWidget(); above; above = above->parentWidget()) {
-    auto* area = qobject_cast<QScrollArea*>(above);
-    if (!area || !area->widget())
+  for (MuElement* above = element_->parent(); above; above = above->parent()) {
+    auto* scroll = dynamic_cast<MuScroll*>(above);
+    MuCommonQt* content = scroll ? of(scroll->getChild(0)) : nullptr;
+    if (!content || !content->widget()->isAncestorOf(widget_))
       continue;
-    const QPoint centre = widget_->mapTo(
-        area->widget(), QPoint((rect.tl.x + rect.br.x) / 2, (rect.tl.y + rect.br.y) / 2));
-    area->ensureVisible(centre.x(), centre.y(), rect.width() / 2, rect.height() / 2);
+    const QPoint origin = widget_->mapTo(content->widget(), QPoint(rect.tl.x, rect.tl.y));
+    scroll->scrollToShow(Rect::at({origin.x(), origin.y()}, rect.size()));
     return;
   }
 }

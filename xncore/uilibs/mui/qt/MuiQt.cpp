@@ -12,7 +12,9 @@
 #include "mui/qt/MuLineQt.h"
 #include "mui/qt/MuListQt.h"
 #include "mui/qt/MuPagerQt.h"
+#include "mui/qt/MuScrollQt.h"
 #include "mui/qt/MuSliderQt.h"
+#include "mui/qt/MuSplitterQt.h"
 #include "mui/qt/MuStaticQt.h"
 #include "mui/qt/MuTextQt.h"
 #include "plat/Assertion.h"
@@ -140,6 +142,8 @@ void installQtBinding(MuiQt& root) {
   muLineFactory = &MuLineQt::make;
   muTextFactory = &MuTextQt::make;
   muPagerFactory = &MuPagerQt::make;
+  muScrollFactory = &MuScrollQt::make;
+  muSplitterFactory = &MuSplitterQt::make;
 }
 
 } // namespace mui
