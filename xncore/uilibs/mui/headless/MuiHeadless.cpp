@@ -10,6 +10,7 @@
 #include "mui/headless/MuLineHeadless.h"
 #include "mui/headless/MuListHeadless.h"
 #include "mui/headless/MuPagerHeadless.h"
+#include "mui/headless/MuPopupMenuHeadless.h"
 #include "mui/headless/MuScrollHeadless.h"
 #include "mui/headless/MuSliderHeadless.h"
 #include "mui/headless/MuSplitterHeadless.h"
@@ -40,6 +41,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muPagerFactory = &MuPagerHeadless::make;
   muScrollFactory = &MuScrollHeadless::make;
   muSplitterFactory = &MuSplitterHeadless::make;
+  muPopupMenuFactory = &MuPopupMenuHeadless::make;
 }
 
 } // namespace mui

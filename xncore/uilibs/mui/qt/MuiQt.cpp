@@ -12,6 +12,7 @@
 #include "mui/qt/MuLineQt.h"
 #include "mui/qt/MuListQt.h"
 #include "mui/qt/MuPagerQt.h"
+#include "mui/qt/MuPopupMenuQt.h"
 #include "mui/qt/MuScrollQt.h"
 #include "mui/qt/MuSliderQt.h"
 #include "mui/qt/MuSplitterQt.h"
@@ -144,6 +145,7 @@ void installQtBinding(MuiQt& root) {
   muPagerFactory = &MuPagerQt::make;
   muScrollFactory = &MuScrollQt::make;
   muSplitterFactory = &MuSplitterQt::make;
+  muPopupMenuFactory = &MuPopupMenuQt::make;
 }
 
 } // namespace mui
