@@ -2,6 +2,7 @@
 
 #include "mui/headless/MuButtonHeadless.h"
 #include "mui/headless/MuCheckHeadless.h"
+#include "mui/headless/MuChoiceHeadless.h"
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuEditHeadless.h"
 #include "mui/headless/MuFrameHeadless.h"
@@ -32,6 +33,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muCheckFactory = &MuCheckHeadless::make;
   muSliderFactory = &MuSliderHeadless::make;
   muEditFactory = &MuEditHeadless::make;
+  muChoiceFactory = &MuChoiceHeadless::make;
   muFrameFactory = &MuFrameHeadless::make;
   muStaticFactory = &MuStaticHeadless::make;
   muListFactory = &MuListHeadless::make;

@@ -4,6 +4,7 @@
 #include "mui/MuiParameters.h"
 #include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuCheckQt.h"
+#include "mui/qt/MuChoiceQt.h"
 #include "mui/qt/MuDialogQt.h"
 #include "mui/qt/MuEditQt.h"
 #include "mui/qt/MuFrameQt.h"
@@ -136,6 +137,7 @@ void installQtBinding(MuiQt& root) {
   muCheckFactory = &MuCheckQt::make;
   muSliderFactory = &MuSliderQt::make;
   muEditFactory = &MuEditQt::make;
+  muChoiceFactory = &MuChoiceQt::make;
   muFrameFactory = &MuFrameQt::make;
   muStaticFactory = &MuStaticQt::make;
   muListFactory = &MuListQt::make;
