@@ -4,6 +4,7 @@
 #include "plat/LogSrc.h"
 #include "plat/String.h"
 #include "plat/SysColors.h"
+#include "xnutil/DisplayScale.h"
 #include "xnutil/ImageExceptions.h"
 #include "xnutil/NamedImageLoader.h"
 
@@ -39,7 +40,10 @@ std::shared_ptr<NamedImage> cached(const char* name, rfb::Size size, bool logFai
   const auto [first, last] = cache().equal_range(key);
   for (auto it = first; it != last; ++it) {
     const NamedImage& image = *it->second;
-    if (size == rfb::Size() ? image.isAutoSize() : image.size() == size)
+    const bool found = size == rfb::Size()
+                           ? image.isAutoSize() && image.scale() == xnutil::displayScale()
+                           : image.size() == size;
+    if (found)
       return it->second;
   }
   auto image = std::make_shared<NamedImage>(name, size, logFailures);
@@ -50,7 +54,7 @@ std::shared_ptr<NamedImage> cached(const char* name, rfb::Size size, bool logFai
 } // namespace
 
 NamedImage::NamedImage(const char* name, rfb::Size size, bool logFailures)
-    : autoSize_(size == rfb::Size()) {
+    : autoSize_(size == rfb::Size()), scale_(xnutil::displayScale()) {
   if (!name || !*name)
     return;
   try {

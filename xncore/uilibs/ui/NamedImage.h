@@ -20,13 +20,17 @@ public:
 
   /// Whether the image was asked for at 0 x 0.
   bool isAutoSize() const { return autoSize_; }
+  /// The display scale at which it was made.
+  int scale() const { return scale_; }
 
 private:
   bool autoSize_;
+  int scale_;
 };
 
 /// The image of `name` at `size` from the cache, made on the first request.
 /// An empty image is kept too, so a failing name is tried once for each size.
+/// A size of 0 x 0 is one size for each display scale.
 std::shared_ptr<NamedImage> getNamedImage(const char* name, rfb::Size size);
 /// As above; with `useDarkVariant`, on a dark background "<name>_darkbg" is
 /// preferred when it exists.

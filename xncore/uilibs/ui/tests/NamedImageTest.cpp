@@ -1,5 +1,6 @@
 #include "ui/NamedImage.h"
 
+#include "plat/IntParameter.h"
 #include "plat/SysColors.h"
 #include "plat/tests/Capture.h"
 #include "xnutil/BuiltinResources.h"
@@ -57,6 +58,19 @@ TEST_F(NamedImageCache, OneEntryForEachNameAndSize) {
   EXPECT_EQ(getNamedImage("ui_plain", {20, 20}), sized);
   const auto bySize = getNamedImage("ui_only", {16, 16});
   EXPECT_NE(getNamedImage("ui_only", {}), bySize);
+}
+
+// The toolkit's density parameter, which this test program doesn't link.
+plat::IntParameter ppmm("ppmm", "", 4, true, nullptr, 1, 32);
+
+TEST_F(NamedImageCache, AnAutomaticSizeIsOneForEachDisplayScale) {
+  const auto single = getNamedImage("ui_only", {});
+  ppmm.setInt(8, 10);
+  const auto doubled = getNamedImage("ui_only", {});
+  ppmm.unset(10, false);
+  EXPECT_EQ(single->size(), rfb::Size(16, 16));
+  EXPECT_EQ(doubled->size(), rfb::Size(32, 32));
+  EXPECT_EQ(getNamedImage("ui_only", {}), single);
 }
 
 TEST_F(NamedImageCache, FailuresGiveEmptyImagesAndOneLogLine) {
