@@ -82,11 +82,12 @@ void ButtonWidgetQt::paintEvent(QPaintEvent*) {
     area = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
   }
   paintContent(painter, area);
-  // The bevel marks the focus itself; frameless buttons get the dotted mark.
-  if (hasFocus() && !framed) {
+  // The style's mark inside a frame; around the content without one.
+  if (hasFocus()) {
     QStyleOptionFocusRect focus;
     focus.initFrom(this);
-    focus.rect = area;
+    focus.rect =
+        framed ? style()->subElementRect(QStyle::SE_PushButtonFocusRect, &option, this) : area;
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
   }
 }
