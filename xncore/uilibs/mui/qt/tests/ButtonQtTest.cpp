@@ -1,11 +1,10 @@
 // Buttons on Qt: real clicks, keys and mnemonics reach the abstract half and
 // raise the same events as on the headless binding; disabled or locked
 // buttons raise none; the default button leaves Return to its dialog.
-#include "QtForm.h"
+#include "ControlsQtForm.h"
 
 #include "mui/MuButton.h"
 #include "mui/qt/MuButtonQt.h"
-#include "mui/tests/EventLog.h"
 
 #include <gmock/gmock.h>
 
@@ -17,21 +16,14 @@
 namespace mui::test {
 namespace {
 
-class ButtonsQt : public QtForm {
+class ButtonsQt : public ControlsQtForm {
 protected:
   void SetUp() override {
-    QtForm::SetUp();
-    column = MuLayout::create(dialog.get(), "column", MuLayout::Vertical);
+    ControlsQtForm::SetUp();
     ok = MuButton::create(column, "ok", "&OK");
     other = MuButton::create(column, "other", "Ot&her");
     dialog->setButton(MuDialog::DefaultButton, ok);
-    dialog->setVisible(true);
-    QApplication::setActiveWindow(window());
-    column->addObserver(&log);
-  }
-  void TearDown() override {
-    dialog->setVisible(false);
-    QtForm::TearDown();
+    show();
   }
   static QPushButton* widget(MuButton* button) {
     return static_cast<MuButtonQt*>(button)->widget();
@@ -42,10 +34,8 @@ protected:
     processFor(250);
   }
 
-  MuLayout* column = nullptr;
   MuButton* ok = nullptr;
   MuButton* other = nullptr;
-  EventLog log;
 };
 
 TEST_F(ButtonsQt, PointerKeysAndMnemonicsClick) {

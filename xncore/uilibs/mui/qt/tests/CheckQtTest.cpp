@@ -1,11 +1,10 @@
 // Check boxes and radio buttons on Qt: clicks, Space, mnemonics and the
 // arrow keys of a radio group reach the abstract half and raise the same
 // events as on the headless binding; disabled and locked checks raise none.
-#include "QtForm.h"
+#include "ControlsQtForm.h"
 
 #include "mui/MuCheck.h"
 #include "mui/qt/MuCheckQt.h"
-#include "mui/tests/EventLog.h"
 
 #include <gmock/gmock.h>
 
@@ -17,22 +16,15 @@
 namespace mui::test {
 namespace {
 
-class ChecksQt : public QtForm {
+class ChecksQt : public ControlsQtForm {
 protected:
   void SetUp() override {
-    QtForm::SetUp();
-    column = MuLayout::create(dialog.get(), "column", MuLayout::Vertical);
+    ControlsQtForm::SetUp();
     box = MuCheck::create(column, "box", "&Allow");
     a = MuCheck::create(column, "a", "Radio A", MuCheck::Radio);
     b = MuCheck::create(column, "b", "Radio &B", MuCheck::Radio, a);
     c = MuCheck::create(column, "c", "Radio C", MuCheck::Radio, a);
-    dialog->setVisible(true);
-    QApplication::setActiveWindow(window());
-    column->addObserver(&log);
-  }
-  void TearDown() override {
-    dialog->setVisible(false);
-    QtForm::TearDown();
+    show();
   }
   static QAbstractButton* widget(MuCheck* check) {
     return static_cast<MuCheckQt*>(check)->widget();
@@ -44,10 +36,8 @@ protected:
     return result;
   }
 
-  MuLayout* column = nullptr;
   MuCheck* box = nullptr;
   MuCheck *a = nullptr, *b = nullptr, *c = nullptr;
-  EventLog log;
 };
 
 TEST_F(ChecksQt, ClicksSpaceAndMnemonicsToggleThroughTheAbstractHalf) {

@@ -2,11 +2,10 @@
 // on the headless binding; the program's changes and removals raise nothing;
 // typed text never becomes an item; a disabled choice takes no input; the
 // caption's mnemonic focuses the list.
-#include "QtForm.h"
+#include "ControlsQtForm.h"
 
 #include "mui/MuChoice.h"
 #include "mui/qt/MuChoiceQt.h"
-#include "mui/tests/EventLog.h"
 
 #include <gmock/gmock.h>
 
@@ -18,27 +17,18 @@
 namespace mui::test {
 namespace {
 
-class ChoicesQt : public QtForm {
+class ChoicesQt : public ControlsQtForm {
 protected:
   void SetUp() override {
-    QtForm::SetUp();
-    column = MuLayout::create(dialog.get(), "column", MuLayout::Vertical);
+    ControlsQtForm::SetUp();
     choice = static_cast<MuChoiceQt*>(MuChoice::create(column, "preset", "P&reset"));
     choice->addItem(10, "Allow");
     choice->addItem(20, "Deny");
     choice->addItem(5, "Full control");
-    dialog->setVisible(true);
-    QApplication::setActiveWindow(window());
-    column->addObserver(&log);
-  }
-  void TearDown() override {
-    dialog->setVisible(false);
-    QtForm::TearDown();
+    show();
   }
 
-  MuLayout* column = nullptr;
   MuChoiceQt* choice = nullptr;
-  EventLog log;
 };
 
 TEST_F(ChoicesQt, KeysPickItemsAndOnlyThoseRaiseEvents) {

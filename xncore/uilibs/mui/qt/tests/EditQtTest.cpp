@@ -2,12 +2,11 @@
 // half and its filter as on the headless binding; changes that come another
 // way (the context menu's paste, undo) are undone when the filter refuses
 // them; disabled edits take nothing; a caption's mnemonic focuses its edit.
-#include "QtForm.h"
+#include "ControlsQtForm.h"
 
 #include "mui/MuButton.h"
 #include "mui/MuEdit.h"
 #include "mui/qt/MuEditQt.h"
-#include "mui/tests/EventLog.h"
 
 #include <gmock/gmock.h>
 
@@ -20,23 +19,16 @@
 namespace mui::test {
 namespace {
 
-class EditsQt : public QtForm {
+class EditsQt : public ControlsQtForm {
 protected:
   void SetUp() override {
-    QtForm::SetUp();
-    column = MuLayout::create(dialog.get(), "column", MuLayout::Vertical);
+    ControlsQtForm::SetUp();
     edit = static_cast<MuEditQt*>(MuEdit::create(column, "percent", "&Percent"));
     box = static_cast<MuEditQt*>(MuEdit::create(column, "notes", "N&otes", MuEdit::Multiline));
     ok = MuButton::create(column, "ok", "OK");
     dialog->setButton(MuDialog::DefaultButton, ok);
     edit->setFilter(&percent);
-    dialog->setVisible(true);
-    QApplication::setActiveWindow(window());
-    column->addObserver(&log);
-  }
-  void TearDown() override {
-    dialog->setVisible(false);
-    QtForm::TearDown();
+    show();
   }
   std::string text(MuEdit* e) { return e->getText().get(); }
   static void type(QWidget* widget, const QString& text) {
@@ -44,12 +36,10 @@ protected:
     QApplication::sendEvent(widget, &press);
   }
 
-  MuLayout* column = nullptr;
   MuEditQt* edit = nullptr;
   MuEditQt* box = nullptr;
   MuButton* ok = nullptr;
   MuEdit::NumericFilter percent{0, 100};
-  EventLog log;
 };
 
 TEST_F(EditsQt, TheFilterHoldsAgainstTypedAndPastedText) {
