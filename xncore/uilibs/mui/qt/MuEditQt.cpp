@@ -210,8 +210,9 @@ int MuEditQt::lineHeight() {
 }
 
 int MuEditQt::nativeFrameHeight() {
+  // A box of many lines shows its last line whole only with a pixel to spare.
   if (QPlainTextEdit* box = textEdit())
-    return 2 * box->frameWidth() + 2 * static_cast<int>(box->document()->documentMargin());
+    return 2 * box->frameWidth() + 2 * static_cast<int>(box->document()->documentMargin()) + 1;
   return std::max(0, lineEdit()->sizeHint().height() - lineHeight());
 }
 

@@ -14,6 +14,7 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 
 namespace mui::test {
@@ -159,6 +160,27 @@ TEST_F(EditsQt, ABoxOfManyLinesGrowsWithItsText) {
   EXPECT_EQ(box->heightForRows(3) - box->heightForRows(1),
             2 * QFontMetrics(box->textEdit()->font()).lineSpacing());
   EXPECT_GE(edit->minHeight(INT_MAX), edit->lineEdit()->sizeHint().height());
+}
+
+// At the height it measures, a box shows all its lines without scrolling.
+TEST_F(EditsQt, ABoxShowsItsLinesAtTheHeightItMeasures) {
+  struct Case {
+    const char* text;
+    int rows;
+    int width;
+  } cases[] = {
+      {"one\ntwo\nthree", 3, 300},
+      {"A note long enough to wrap into a second and a third line.\nAnd one more.", 1, 200},
+      {"four\nlines\nof\ntext", 4, 150}};
+  for (const Case& c : cases) {
+    box->setText(c.text);
+    box->setMinHeight(box->heightForRows(c.rows));
+    box->setLabelLayout(box->labelWidth() + Mui::metric(MetricLabelGap), -1);
+    const int height = box->minHeight(c.width);
+    box->setSize({c.width, height});
+    processFor(10);
+    EXPECT_EQ(box->textEdit()->verticalScrollBar()->maximum(), 0) << c.text << " at " << height;
+  }
 }
 
 } // namespace
