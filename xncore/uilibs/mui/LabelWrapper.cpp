@@ -28,6 +28,24 @@ LabelWrapper* LabelWrapper::of(MuElement* element) {
   return element ? dynamic_cast<LabelWrapper*>(element->common()) : nullptr;
 }
 
+void LabelWrapper::setLabelLayoutOf(MuElement* element, int labelWidth, int controlWidth) {
+  if (LabelWrapper* wrapper = of(element))
+    wrapper->setLabelLayout(labelWidth, controlWidth);
+}
+
+int LabelWrapper::labelWidthOf(MuElement* element) {
+  LabelWrapper* wrapper = of(element);
+  return wrapper ? wrapper->labelWidth() : element->MuElement::labelWidth();
+}
+
+void LabelWrapper::alignCaptions(const std::vector<MuElement*>& elements) {
+  int widest = 0;
+  for (MuElement* element : elements)
+    widest = std::max(widest, element->labelWidth());
+  for (MuElement* element : elements)
+    element->setLabelLayout(widest + Mui::metric(MetricLabelGap), -1);
+}
+
 bool LabelWrapper::hasCaption() const {
   const char* label = element_->label();
   return label && *label;

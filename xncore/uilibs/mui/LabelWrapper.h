@@ -7,23 +7,18 @@
 // this class: the peer's minWidth() and minHeight() are measureWidth() and
 // measureHeight(), and after the peer took a new size it calls reposition().
 // The control's class supplies its own least size through a MinSizeCallback.
-// The control's abstract class forwards the two label operations of MuElement:
-//
-//   void MuEdit::setLabelLayout(int labelWidth, int controlWidth) {
-//     if (LabelWrapper* wrapper = LabelWrapper::of(this))
-//       wrapper->setLabelLayout(labelWidth, controlWidth);
-//   }
-//   int MuEdit::labelWidth() {
-//     LabelWrapper* wrapper = LabelWrapper::of(this);
-//     return wrapper ? wrapper->labelWidth() : MuElement::labelWidth();
-//   }
+// The control's abstract class forwards the two label operations of MuElement
+// with setLabelLayoutOf() and labelWidthOf().
 //
 // To align the captions of a form, ask each control for labelWidth(), take the
 // largest, add Mui::metric(MetricLabelGap), and call setLabelLayout(that, -1)
 // on each: a caption column of that width, and controls that take the rest.
+// alignCaptions() does just that.
 #pragma once
 
 #include "mui/Geometry.h"
+
+#include <vector>
 
 namespace mui {
 
@@ -55,6 +50,13 @@ public:
 
   /// The wrapper that is `element`'s peer, or null.
   static LabelWrapper* of(MuElement* element);
+  /// setLabelLayout() of `element`'s wrapper; nothing without one.
+  static void setLabelLayoutOf(MuElement* element, int labelWidth, int controlWidth);
+  /// labelWidth() of `element`'s wrapper; without one, the element's own.
+  static int labelWidthOf(MuElement* element);
+  /// One caption column for all of `elements`, as wide as the widest caption
+  /// and the gap; the controls take the rest.
+  static void alignCaptions(const std::vector<MuElement*>& elements);
 
   bool hasCaption() const;
   /// Stores both widths and places caption and control again. A width of 0 is

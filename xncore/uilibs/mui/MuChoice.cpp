@@ -79,13 +79,11 @@ int MuChoice::minControlHeight() {
 }
 
 void MuChoice::setLabelLayout(int labelWidth, int controlWidth) {
-  if (LabelWrapper* wrapper = LabelWrapper::of(this))
-    wrapper->setLabelLayout(labelWidth, controlWidth);
+  LabelWrapper::setLabelLayoutOf(this, labelWidth, controlWidth);
 }
 
 int MuChoice::labelWidth() {
-  LabelWrapper* wrapper = LabelWrapper::of(this);
-  return wrapper ? wrapper->labelWidth() : MuElement::labelWidth();
+  return LabelWrapper::labelWidthOf(this);
 }
 
 const char* MuChoice::typeName() {

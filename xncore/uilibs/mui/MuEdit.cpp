@@ -87,13 +87,11 @@ int MuEdit::minControlHeight() {
 }
 
 void MuEdit::setLabelLayout(int labelWidth, int controlWidth) {
-  if (LabelWrapper* wrapper = LabelWrapper::of(this))
-    wrapper->setLabelLayout(labelWidth, controlWidth);
+  LabelWrapper::setLabelLayoutOf(this, labelWidth, controlWidth);
 }
 
 int MuEdit::labelWidth() {
-  LabelWrapper* wrapper = LabelWrapper::of(this);
-  return wrapper ? wrapper->labelWidth() : MuElement::labelWidth();
+  return LabelWrapper::labelWidthOf(this);
 }
 
 const char* MuEdit::typeName() {

@@ -7,6 +7,7 @@
 
 #include "mui/MuButton.h"
 #include "mui/MuEdit.h"
+#include "mui/headless/LabelWrapperHeadless.h"
 #include "mui/headless/MuEditHeadless.h"
 #include "plat/utf8.h"
 
@@ -195,6 +196,17 @@ TEST_F(Edits, ReturnMakesANewLineOnlyInABoxOfManyLines) {
   EXPECT_EQ(std::string(box->getText().get()), "1\n");
   EXPECT_THAT(log.take(),
               testing::ElementsAre("notes changed", "notes changed", "ok clicked", "ok clicked"));
+}
+
+// "Password:" is the wider caption: nine code points and the gap make the column.
+TEST_F(Edits, CaptionsLineUpInOneColumn) {
+  auto* password = static_cast<MuEditHeadless*>(
+      MuEdit::create(column, "password", "Password:", MuEdit::Password));
+  LabelWrapper::alignCaptions({edit, password});
+  for (MuEditHeadless* e : {edit, password}) {
+    e->setSize({200, 24});
+    EXPECT_EQ(e->peer()->placed().control, Rect(63 + 4, 0, 200, 24)) << e->name();
+  }
 }
 
 // At "ppmm" 4: code points 7 pixels, lines 16, the label gap 4, a control 24 high.
