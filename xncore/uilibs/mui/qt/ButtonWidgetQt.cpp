@@ -127,20 +127,28 @@ void ButtonWidgetQt::paintContent(QPainter& painter, QRect area) {
       palette.setColor(group, QPalette::ButtonText, palette.color(group, QPalette::Link));
   }
   painter.setFont(font);
-  const int gap = image ? pixmap.width() + Mui::toPixels(imageGapUnits) : 0;
   const int flags = Qt::TextShowMnemonic | Qt::TextWordWrap;
+  const int vertical = static_cast<int>(Qt::AlignVCenter) | flags;
+  if (!image) {
+    style()->drawItemText(&painter, area,
+                          static_cast<int>(horizontalAlignment(textAlign)) | vertical, palette,
+                          isEnabled(), text(), QPalette::ButtonText);
+    return;
+  }
+  // The image leads the label; the two stand aligned as one block. The label
+  // gets all the room to its right: a rectangle cut to its measured width
+  // could break its last word for a fraction of a pixel.
+  const int gap = pixmap.width() + Mui::toPixels(imageGapUnits);
   const int room = std::max(0, area.width() - gap);
   const int textWidth = std::min(
       room,
       painter.fontMetrics().boundingRect(QRect(0, 0, room, area.height()), flags, text()).width());
-  int left = alignedLeft(area, gap + textWidth, textAlign);
-  if (image) {
-    painter.drawPixmap(left, area.top() + (area.height() - pixmap.height()) / 2, pixmap);
-    left += gap;
-  }
-  style()->drawItemText(&painter, QRect(left, area.top(), textWidth, area.height()),
-                        static_cast<int>(horizontalAlignment(textAlign) | Qt::AlignVCenter) | flags,
-                        palette, isEnabled(), text(), QPalette::ButtonText);
+  const int left = alignedLeft(area, gap + textWidth, textAlign);
+  painter.drawPixmap(left, area.top() + (area.height() - pixmap.height()) / 2, pixmap);
+  style()->drawItemText(&painter,
+                        QRect(left + gap, area.top(), area.right() + 1 - left - gap, area.height()),
+                        static_cast<int>(Qt::AlignLeft) | vertical, palette, isEnabled(), text(),
+                        QPalette::ButtonText);
 }
 
 void ButtonWidgetQt::keyPressEvent(QKeyEvent* event) {
