@@ -8,13 +8,16 @@
 #include "mui/MuCheck.h"
 #include "mui/MuChoice.h"
 #include "mui/MuFrame.h"
+#include "mui/MuImage.h"
 #include "mui/MuLayout.h"
+#include "mui/MuLine.h"
 #include "mui/MuSlider.h"
 #include "mui/MuSpacer.h"
 #include "mui/MuStatic.h"
+#include "mui/MuText.h"
 #include "mui/Mui.h"
 
-#include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace gallery {
@@ -26,6 +29,10 @@ using namespace mui;
 // Widths and heights in units, as forms give them.
 constexpr int formWidth = 1400;
 constexpr int sliderLength = 160;
+constexpr int pictureSide = 64;
+
+// Where the form's own link points.
+constexpr const char* messageLink = "app://gallery/message";
 
 // A titled frame around a column, which it returns.
 MuLayout* section(MuContainer* parent, const char* name, const char* title) {
@@ -42,12 +49,11 @@ void endRow(MuLayout* layout) {
   layout->setChildLayout(MuSpacer::create(layout, 0, 0), MuLayout::Weighted, 1);
 }
 
-void buildButtons(MuContainer* parent, MuDialog* dialog) {
+void buildButtons(MuContainer* parent) {
   MuLayout* column = section(parent, "buttons", XN_TEXT(textkey::gallery_frame_buttons));
   // Two buttons a row leave room for the longer labels of other languages.
   MuLayout* plain = row(column, "plain");
-  MuButton* apply = MuButton::create(plain, "apply", XN_TEXT(textkey::gallery_button_apply));
-  dialog->setButton(MuDialog::DefaultButton, apply);
+  MuButton::create(plain, "apply", XN_TEXT(textkey::gallery_button_apply));
   MuButton::create(plain, "refresh", XN_TEXT(textkey::gallery_button_refresh));
   endRow(plain);
 
@@ -164,20 +170,67 @@ GalleryForm::GalleryForm() {
   const Size size = Mui::textToPixels(Size(formWidth, 0));
   dialog_.reset(MuDialog::create("gallery", XN_TEXT(textkey::gallery_title), &size,
                                  MuDialog::FitHeight, nullptr, nullptr));
+  dialog_->addObserver(this);
   MuLayout* column = MuLayout::create(dialog_.get(), "column", MuLayout::Vertical);
   MuStatic::create(column, "heading", XN_TEXT(textkey::gallery_heading), MuStatic::Heading);
   MuStatic::create(column, "detail", XN_TEXT(textkey::gallery_detail), MuStatic::Detail);
 
   MuLayout* top = MuLayout::create(column, "top", MuLayout::Horizontal);
   top->setDefaultMode(MuLayout::Weighted);
-  buildButtons(top, dialog_.get());
+  buildButtons(top);
   buildChecks(top);
   MuLayout* bottom = MuLayout::create(column, "bottom", MuLayout::Horizontal);
   bottom->setDefaultMode(MuLayout::Weighted);
   buildText(bottom, &percent_);
-  buildSliders(bottom);
+  MuLayout* right = MuLayout::create(bottom, "right", MuLayout::Vertical);
+  buildSliders(right);
+  buildStatics(right);
+  // OK and Cancel, OK the default button.
+  buttonBar_ =
+      std::make_unique<MuButtonBar>(dialog_.get(), MuButtonBar::Ok | MuButtonBar::Cancel, true);
 }
 
-GalleryForm::~GalleryForm() = default;
+void GalleryForm::buildStatics(MuContainer* parent) {
+  MuLayout* column = section(parent, "static", XN_TEXT(textkey::gallery_frame_static));
+  MuLayout* aligned = row(column, "aligned");
+  aligned->setDefaultMode(MuLayout::Weighted);
+  MuStatic::create(aligned, "left", XN_TEXT(textkey::gallery_static_left), MuStatic::LeftText);
+  MuStatic::create(aligned, "centred", XN_TEXT(textkey::gallery_static_centred),
+                   MuStatic::CenteredText);
+  MuStatic::create(aligned, "right", XN_TEXT(textkey::gallery_static_right), MuStatic::RightText);
+  MuLine::create(column, "rule", true, MuLine::Etched, 2);
+
+  MuLayout* picture = row(column, "picture");
+  const Size side = Mui::toPixels(Size(pictureSide, pictureSide));
+  MuImage::create(picture, "image", "oxnpermissionscreator", &side);
+  MuLine::create(picture, "bar", false, MuLine::Color, Mui::toPixels(4));
+  picture->setChildLayout(
+      MuText::create(picture, "markup", XN_TEXT(textkey::gallery_text_markup), this, false),
+      MuLayout::Weighted, 1);
+
+  message_ = std::make_unique<MuInfoFrame>(column, "message", this, MuFrame::Bordered);
+  message_->setMessage(MuInfoFrame::Warning, XN_TEXT(textkey::gallery_info_message),
+                       XN_TEXT(textkey::gallery_info_link));
+}
+
+void GalleryForm::clicked(MuElement* source) {
+  const int id = buttonBar_->buttonId(source);
+  if (id == MuButtonBar::Ok || id == MuButtonBar::Cancel)
+    dialog_->userClose();
+}
+
+void GalleryForm::linkClicked(const char* url) {
+  if (std::strcmp(url, messageLink) == 0)
+    message_->setMessage(MuInfoFrame::Warning, XN_TEXT(textkey::gallery_info_message),
+                         XN_TEXT(textkey::gallery_info_link));
+  else
+    message_->setShown(false);
+}
+
+GalleryForm::~GalleryForm() {
+  // The bar and the message take their elements out of the dialog, which is still there.
+  buttonBar_.reset();
+  message_.reset();
+}
 
 } // namespace gallery
