@@ -16,6 +16,7 @@
 #include "mui/headless/MuSliderHeadless.h"
 #include "mui/headless/MuSplitterHeadless.h"
 #include "mui/headless/MuStaticHeadless.h"
+#include "mui/headless/MuSuperboxHeadless.h"
 #include "mui/headless/MuTextHeadless.h"
 #include "plat/Assertion.h"
 
@@ -44,6 +45,7 @@ void installHeadlessBinding(MuiHeadless& root) {
   muScrollFactory = &MuScrollHeadless::make;
   muSplitterFactory = &MuSplitterHeadless::make;
   muPopupMenuFactory = &MuPopupMenuHeadless::make;
+  muSuperboxFactory = &MuSuperboxHeadless::make;
 }
 
 } // namespace mui

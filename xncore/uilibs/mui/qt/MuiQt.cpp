@@ -18,6 +18,7 @@
 #include "mui/qt/MuSliderQt.h"
 #include "mui/qt/MuSplitterQt.h"
 #include "mui/qt/MuStaticQt.h"
+#include "mui/qt/MuSuperboxQt.h"
 #include "mui/qt/MuTextQt.h"
 #include "plat/Assertion.h"
 
@@ -148,6 +149,7 @@ void installQtBinding(MuiQt& root) {
   muScrollFactory = &MuScrollQt::make;
   muSplitterFactory = &MuSplitterQt::make;
   muPopupMenuFactory = &MuPopupMenuQt::make;
+  muSuperboxFactory = &MuSuperboxQt::make;
 }
 
 } // namespace mui
