@@ -125,12 +125,15 @@ LabelWrapper::Arrangement LabelWrapper::arrange(Size size) {
   result.control =
       Rect::at({labelWidth, (size.height - controlHeight) / 2}, {controlWidth, controlHeight});
 
-  // The caption is centred on the control's text, not on its window.
+  // The caption is centred on the control's text, not on its window. A caption
+  // of several lines beside the first line of a tall box would rise above
+  // the wrapper: it stays inside, at the top if it must be cut.
   int captionTop = (size.height - captionHeight) / 2;
   int centre = 0;
   if (controlTextCentre(result.control, &centre) && centre >= result.control.tl.y &&
       centre < result.control.br.y)
     captionTop = static_cast<int>(std::floor(centre - captionHeight * 0.5 + 0.5));
+  captionTop = std::max(std::min(captionTop, size.height - captionHeight), 0);
   result.caption = Rect::at({0, captionTop}, {captionWidth, captionHeight});
   return result;
 }

@@ -104,7 +104,13 @@ TEST_F(Wrapper, ArrangesCaptionAndControlForEachWayOfGivingTheirWidths) {
        {300, 200},
        {0, 92, 35, 108},
        {39, 88, 139, 112}},
-      {"nor taller than the wrapper", "Name:", 0, 0, {300, 10}, {0, -3, 35, 13}, {39, 0, 139, 10}},
+      {"nor taller than the wrapper, where the caption is cut at its foot",
+       "Name:",
+       0,
+       0,
+       {300, 10},
+       {0, 0, 35, 16},
+       {39, 0, 139, 10}},
   };
   for (const ArrangeCase& c : cases) {
     WrappedControl* control = WrappedControl::create(dialog.get(), "c", c.label);

@@ -10,8 +10,8 @@
 // first density that asked, so each density wants a process of its own, as
 // CTest gives every case.
 #include "QtForm.h"
-#include "WrappedEditQt.h"
 
+#include "mui/MuEdit.h"
 #include "mui/MuFrame.h"
 #include "mui/MuImage.h"
 #include "mui/MuInfoFrame.h"
@@ -19,6 +19,7 @@
 #include "mui/MuStatic.h"
 #include "mui/MuText.h"
 #include "mui/Mui.h"
+#include "mui/qt/LabelWrapperQt.h"
 
 #include <QDir>
 #include <QImage>
@@ -94,12 +95,19 @@ protected:
 
     MuFrame* captions = MuFrame::create(column, "captions", "Captions", MuFrame::Titled);
     MuLayout* fields = MuLayout::create(captions, "fields", MuLayout::Vertical);
-    WrappedEditQt* type = WrappedEditQt::create(fields, "type", "&Type:");
-    WrappedEditQt* name = WrappedEditQt::create(fields, "name", "Display &name:");
-    const int captionColumn =
-        std::max(type->labelWidth(), name->labelWidth()) + Mui::metric(MetricLabelGap);
-    type->setLabelLayout(captionColumn, -1);
-    name->setLabelLayout(captionColumn, -1);
+    MuEdit* captioned[] = {
+        MuEdit::create(fields, "type", "&Type:"),
+        MuEdit::create(fields, "name", "Display &name:"),
+        MuEdit::create(fields, "notes",
+                       "N&otes, which take more than one line:", MuEdit::Multiline),
+    };
+    captioned[2]->setText("A box of many lines\nhas its caption by its first line.");
+    int captionColumn = 0;
+    for (MuEdit* edit : captioned)
+      captionColumn = std::max(captionColumn, edit->labelWidth());
+    for (MuEdit* edit : captioned)
+      edit->setLabelLayout(captionColumn / 2 + Mui::metric(MetricLabelGap), -1);
+    fields->setChildLayout(captioned[2], MuLayout::Fixed, captioned[2]->heightForRows(3));
 
     MuLine::create(column, "etched", true, MuLine::Etched, 1);
     MuLayout* pictures = MuLayout::create(column, "pictures", MuLayout::Horizontal);
@@ -155,7 +163,7 @@ protected:
   // Leaves with a widget: spacers have none.
   void eachLeaf(MuElement* element, const std::function<void(MuElement*)>& visit) {
     auto* container = dynamic_cast<MuContainer*>(element);
-    if (!container || dynamic_cast<WrappedEditQt*>(element)) {
+    if (!container) {
       if (MuCommonQt::of(element))
         visit(element);
       return;
@@ -188,12 +196,17 @@ TEST_P(StaticContentLook, EveryElementShowsAtItsPlaceWithNothingCutOff) {
         << leaf->fullName().get();
     EXPECT_TRUE(image.rect().contains(place)) << leaf->fullName().get();
     const QRgb background = image.pixel(place.topLeft() + QPoint(place.width() - 1, 0));
+    // A caption stands wholly inside its control's wrapper.
+    if (auto* wrapper = dynamic_cast<LabelWrapperQt*>(MuCommonQt::of(leaf))) {
+      EXPECT_TRUE(widget->rect().contains(wrapper->caption()->geometry()))
+          << leaf->fullName().get();
+    }
     if (dynamic_cast<MuStatic*>(leaf) || dynamic_cast<MuText*>(leaf) ||
         dynamic_cast<MuImage*>(leaf)) {
       EXPECT_GT(inkIn(image, place, background), 10) << leaf->fullName().get();
     }
   });
-  EXPECT_EQ(leaves, 14 + 1 + 9 + 3);
+  EXPECT_EQ(leaves, 15 + 1 + 9 + 3);
 
   Overflows overflows;
   form->checkOverflow(overflows);
