@@ -11,8 +11,10 @@ namespace sysauth {
 /// principal's kind and replaces the id by the account's system id. An id
 /// "<LOCAL>\..." is looked up with "<LOCAL>" replaced by `machine`, or by this
 /// computer's name when that is null, and keeps its entered form in
-/// `enteredId`. On failure the id is left as it was read and false returned.
-bool checkPrincipalId(SecurityPrincipal& principal, const char* machine);
+/// `enteredId`. On failure the id is left as it was read, the reason goes to
+/// `rejection` when given, and false is returned.
+bool checkPrincipalId(SecurityPrincipal& principal, const char* machine,
+                      SecurityPrincipal::Rejection* rejection = nullptr);
 
 /// How the check looks an account up by name: os::sidFromName unless replaced.
 using AccountLookup = os::Sid (*)(const char* name, const char* machine, bool& isGroup);

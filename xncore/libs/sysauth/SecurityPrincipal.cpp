@@ -30,7 +30,7 @@ bool SecurityPrincipal::parse(const char* text, const char* machine) {
   return validate(machine);
 }
 
-bool SecurityPrincipal::validate(const char* machine) {
+bool SecurityPrincipal::validate(const char* machine, Rejection* rejection) {
   if (id.isNull())
     plat::assertionFailed(plat::AssertionFail("id", __FILE__, __LINE__));
   if (!isGroup && std::strcmp(id.get(), "*") == 0) {
@@ -39,7 +39,7 @@ bool SecurityPrincipal::validate(const char* machine) {
   }
   if (!isGroup && id.get()[0] == '\0')
     return true;
-  return checkPrincipalId(*this, machine);
+  return checkPrincipalId(*this, machine, rejection);
 }
 
 plat::String SecurityPrincipal::getDisplayName() {

@@ -37,11 +37,22 @@ public:
   /// A bad permission text throws xnauth::Permissions::ParseException, with
   /// the id already replaced.
   bool parse(const char* text, const char* machine);
+  /// Why the check of an id failed.
+  enum class Rejection {
+    None,
+    NoSuchAccount,
+    /// The entry is a group and the account a user.
+    ExpectedGroup,
+    /// The entry is a user and the account a group.
+    UnexpectedGroup,
+  };
+
   /// Checks the id, turning an account name into a system id; false, with the
-  /// failure logged, when that fails. "*" (all users) and the empty id (the
-  /// server's owner) need no check unless the entry is a group. `machine` is
-  /// where accounts are looked up; null for this computer.
-  bool validate(const char* machine);
+  /// failure logged, when that fails, and the reason in `rejection` when
+  /// given. "*" (all users) and the empty id (the server's owner) need no
+  /// check unless the entry is a group. `machine` is where accounts are
+  /// looked up; null for this computer.
+  bool validate(const char* machine, Rejection* rejection = nullptr);
   /// The name to show: the resolver's answer (asked once it is set, and kept),
   /// else the id as entered, else the id. Never null.
   plat::String getDisplayName();

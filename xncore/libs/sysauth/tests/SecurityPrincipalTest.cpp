@@ -127,5 +127,33 @@ TEST(SecurityPrincipalTest, ConstructorChecksTheIdAndParseStartsAfresh) {
   EXPECT_STREQ(user.permissions.getText(), "");
 }
 
+TEST(SecurityPrincipalTest, ValidateSaysWhyAnIdWasTurnedDown) {
+  using Rejection = SecurityPrincipal::Rejection;
+  const struct {
+    const char* id;
+    bool isGroup;
+    Rejection rejection;
+  } cases[] = {
+      {"*", false, Rejection::None},
+      {"root", true, Rejection::None},
+      {"<LOCAL>\\adm", true, Rejection::None},
+      {"no-such-xn", false, Rejection::NoSuchAccount},
+      {"*", true, Rejection::NoSuchAccount},
+      {"nobody", true, Rejection::ExpectedGroup},
+      {"adm", false, Rejection::UnexpectedGroup},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.id);
+    plattest::LogCapture capture;
+    SecurityPrincipal principal;
+    principal.id = plat::String(c.id);
+    principal.isGroup = c.isGroup;
+    Rejection rejection = Rejection::None;
+    EXPECT_EQ(principal.validate(nullptr, &rejection), c.rejection == Rejection::None);
+    EXPECT_EQ(rejection, c.rejection);
+    EXPECT_EQ(capture.lines(checkLog).size(), c.rejection == Rejection::None ? 0u : 1u);
+  }
+}
+
 } // namespace
 } // namespace sysauth::test
