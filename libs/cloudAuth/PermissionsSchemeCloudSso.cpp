@@ -1,5 +1,6 @@
 #include "cloudAuth/PermissionsSchemeCloudSso.h"
 
+#include "cloudAuth/CloudSsoAddDlg.h"
 #include "cloudAuth/CloudSsoEntries.h"
 #include "cloudAuth/TextKeys.h"
 #include "loc/Localize.h"
@@ -34,8 +35,17 @@ void PermissionsSchemeCloudSso::activate() {
 }
 
 void PermissionsSchemeCloudSso::buttonClicked(const char* name) {
-  if (name && std::strcmp(name, "remove") == 0)
+  if (!name)
+    return;
+  if (std::strcmp(name, "add") == 0)
+    openAddDialog(std::make_unique<CloudSsoAddDlg>(editor_->getDialog()));
+  else if (std::strcmp(name, "remove") == 0)
     removeSelectedEntry();
+}
+
+void PermissionsSchemeCloudSso::entryAccepted(sui::EntryAddDialog& dialog) {
+  auto& given = static_cast<CloudSsoAddDlg&>(dialog);
+  addGroup(given.groupUuid().get(), given.displayName().get());
 }
 
 void PermissionsSchemeCloudSso::addGroup(const char* uuid, const char* name) {

@@ -27,7 +27,8 @@ public:
   ~PermissionsSchemeCloudSso() override;
 
   void activate() override;
-  /// "remove" removes the selected entry and the name of its UUID.
+  /// "add" shows the add dialog; "remove" removes the selected entry and the
+  /// name of its UUID.
   void buttonClicked(const char* name) override;
 
   /// Adds a group with the text "d", named `name` or, when that is empty, by
@@ -39,6 +40,7 @@ private:
   const char* entryImage(int index) override;
   void removingEntry(int index) override;
   void writeParameter() override;
+  void entryAccepted(sui::EntryAddDialog& dialog) override;
   /// The name kept for a UUID, or the UUID itself.
   const char* nameOf(const char* uuid) const;
 

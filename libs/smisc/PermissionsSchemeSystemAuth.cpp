@@ -2,6 +2,7 @@
 
 #include "loc/Localize.h"
 #include "plat/Exception.h"
+#include "smisc/SystemAuthAddDlg.h"
 #include "smisc/TextKeys.h"
 #include "sui/PermissionsSchemeEditor.h"
 
@@ -36,8 +37,23 @@ void PermissionsSchemeSystemAuth::activate() {
 }
 
 void PermissionsSchemeSystemAuth::buttonClicked(const char* name) {
-  if (std::strcmp(name, "remove") == 0)
+  if (std::strcmp(name, "add") == 0)
+    showAddDialog();
+  else if (std::strcmp(name, "remove") == 0)
     removeSelectedEntry();
+}
+
+void PermissionsSchemeSystemAuth::showAddDialog() {
+  openAddDialog(std::make_unique<SystemAuthAddDlg>(editor_->getDialog()));
+}
+
+void PermissionsSchemeSystemAuth::entryAccepted(sui::EntryAddDialog& dialog) {
+  auto& typed = static_cast<SystemAuthAddDlg&>(dialog);
+  // The dialog checked the name, so this throws only if the account went
+  // meanwhile; nothing here catches it.
+  addPrincipal(std::make_unique<sysauth::SecurityPrincipal>(
+      typed.id().get(), xnauth::Permissions("d"), typed.isGroup(), nullptr));
+  editor_->entryAdded();
 }
 
 void PermissionsSchemeSystemAuth::addPrincipal(

@@ -1,7 +1,11 @@
 #include "sui/PrincipalListScheme.h"
 
+#include "mui/Events.h"
+#include "mui/MuDialog.h"
 #include "plat/Assertion.h"
 #include "plat/Configuration.h"
+#include "plat/DeferredDeleter.h"
+#include "sui/EntryAddDialog.h"
 #include "sui/PermissionsSchemeEditor.h"
 
 namespace sui {
@@ -12,6 +16,8 @@ PrincipalListScheme::PrincipalListScheme(PermissionsSchemeEditor* editor, const 
   XN_ASSERT(configuration);
   parameter_ = configuration->getParam(parameterName);
 }
+
+PrincipalListScheme::~PrincipalListScheme() = default;
 
 xnauth::Permissions* PrincipalListScheme::getPermissions(int index, bool& locked, bool&,
                                                          bool& flag) {
@@ -56,6 +62,23 @@ void PrincipalListScheme::removeSelectedEntry() {
 
 void PrincipalListScheme::storeText(const char* text) {
   parameter_->setFromString(text, plat::priorityPreference);
+}
+
+void PrincipalListScheme::openAddDialog(std::unique_ptr<EntryAddDialog> dialog) {
+  plat::deleteLater(addDialog_.release());
+  addDialog_ = std::move(dialog);
+  addDialog_->dialog()->addObserver(this);
+  addDialog_->show();
+}
+
+void PrincipalListScheme::handleEvent(mui::MuElement* source, int event) {
+  if (!addDialog_ || source != addDialog_->dialog() || event != mui::EventClosed)
+    return;
+  if (addDialog_->accepted())
+    entryAccepted(*addDialog_);
+  addDialog_->dialog()->removeObserver(this);
+  // The close is still being reported from inside the dialog.
+  plat::deleteLater(addDialog_.release());
 }
 
 } // namespace sui

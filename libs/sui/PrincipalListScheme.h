@@ -2,14 +2,19 @@
 // list share. The list lives in a parameter of the editor's configuration;
 // reading it takes the lock from the priority of its value (policy makes the
 // form read-only), and every change of an entry writes the whole list back at
-// priority 10. Each scheme adds its own text form and its own way of adding
-// entries; the list, the "add" and "remove" buttons and the removal of the
-// selected entry are the same for all.
+// priority 10. Each scheme adds its own text form and its own add dialog;
+// the list, the "add" and "remove" buttons, the removal of the selected entry
+// and the life of the add dialog are the same for all. The add dialog doesn't
+// block: the scheme hears of its close and deletes it once the close has been
+// reported, or with itself.
 #pragma once
 
+#include "mui/MuObserver.h"
 #include "plat/String.h"
 #include "sui/PermissionsScheme.h"
 #include "sysauth/SecurityPrincipalList.h"
+
+#include <memory>
 
 namespace plat {
 class ConfigParameter;
@@ -17,10 +22,13 @@ class ConfigParameter;
 
 namespace sui {
 
+class EntryAddDialog;
 class PermissionsSchemeEditor;
 
-class PrincipalListScheme : public PermissionsScheme {
+class PrincipalListScheme : public PermissionsScheme, mui::MuObserver {
 public:
+  ~PrincipalListScheme() override;
+
   /// The entry's own set; `locked` while policy holds the parameter.
   xnauth::Permissions* getPermissions(int index, bool& locked, bool& enabled, bool& flag) override;
   /// Writes the parameter, whichever entry changed.
@@ -43,6 +51,8 @@ protected:
   void removeSelectedEntry();
   /// Stores `text` as the parameter's value at priority 10.
   void storeText(const char* text);
+  /// Shows `dialog` as the add dialog; one that is still there goes.
+  void openAddDialog(std::unique_ptr<EntryAddDialog> dialog);
 
   /// What entry `index` shows, and the name of its image.
   virtual const char* entryText(int index) = 0;
@@ -51,11 +61,17 @@ protected:
   virtual void removingEntry(int /*index*/) {}
   /// Renders the list and stores it.
   virtual void writeParameter() = 0;
+  /// Ok closed the add dialog; `dialog` holds what was entered.
+  virtual void entryAccepted(EntryAddDialog& dialog) = 0;
 
   PermissionsSchemeEditor* editor_;
   sysauth::SecurityPrincipalList principals_;
 
 private:
+  /// The add dialog's close.
+  void handleEvent(mui::MuElement* source, int event) override;
+
+  std::unique_ptr<EntryAddDialog> addDialog_;
   plat::ConfigParameter* parameter_;
   bool locked_ = false;
 };
