@@ -1,12 +1,24 @@
-// The log source of the directory object picker. Linux has no picker (adding
-// a user or group always goes through the typed dialog), but the source
-// exists on every platform, so that one "Log" value addresses the same names.
+#include "smisc/DsObjectPicker.h"
+
 #include "plat/LogSrc.h"
 
 namespace smisc {
 
 namespace {
-plat::LogSrc objectPickerLog("DsObjectPicker");
+plat::LogSrc pickerLog("DsObjectPicker");
+}
+
+void DsObjectPicker::logResults() const {
+  pickerLog.info("Got %d results", static_cast<int>(results.size()));
+  for (std::size_t i = 0; i < results.size(); ++i) {
+    const PickedObject& object = results[i];
+    int index = static_cast<int>(i);
+    if (object.sid)
+      pickerLog.info("[%d] SID=%s", index, os::sidToString(*object.sid).get());
+    pickerLog.info("[%d] name=%s UPN=%s class=%s", index, object.name.orEmpty(),
+                   object.upn.orEmpty(), object.isGroup ? "group" : "user");
+    pickerLog.info("[%d] path=%s", index, object.path.orEmpty());
+  }
 }
 
 } // namespace smisc
