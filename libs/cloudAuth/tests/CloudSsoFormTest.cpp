@@ -38,9 +38,6 @@ protected:
     settle();
     return shownDialog("cloudssoadd");
   }
-  void choose(const char* path, const char* action, const char* argument) {
-    ASSERT_TRUE(act(path, action, argument));
-  }
 };
 
 TEST_F(CloudSsoFormTest, ReadsTwoOrThreeFieldsAndAlwaysWritesThree) {
@@ -83,11 +80,11 @@ TEST_F(CloudSsoFormTest, EachStepOfTheUserWritesThreeFields) {
   EXPECT_EQ(add(sales, "Sales"), nullptr);
   EXPECT_EQ(text(), sales + ":Sales:d");
   EXPECT_EQ(rows(), "group Sales\n");
-  choose("settings.l.permset.choice", "select", "1");
+  preset(1);
   EXPECT_EQ(text(), sales + ":Sales:v");
-  choose("settings.l.permset.choice", "select", "4");
-  choose("settings.l.permcustom.k.allow.check", "click", "1");
-  choose("settings.l.permcustom.q.deny.check", "click", "1");
+  preset(4);
+  tick('k', "allow", true);
+  tick('q', "deny", true);
   EXPECT_EQ(text(), sales + ":Sales:ks!q");
 
   EXPECT_EQ(add(team, ""), nullptr);
@@ -98,8 +95,8 @@ TEST_F(CloudSsoFormTest, EachStepOfTheUserWritesThreeFields) {
   EXPECT_EQ(text(),
             sales + ":Sales team:ks!q," + sales + ":Sales team:d," + team + ":" + team + ":d");
 
-  choose("split.list", "select", "1");
-  choose("split.buttons.remove", "click", nullptr);
+  pick(1);
+  ASSERT_TRUE(act("split.buttons.remove", "click"));
   EXPECT_EQ(text(), sales + ":" + sales + ":ks!q," + team + ":" + team + ":d")
       << "the name went for both rows";
   EXPECT_EQ(editor->getSelectedEntry(), 0);

@@ -45,14 +45,6 @@ protected:
     settle();
     return shownDialog("systemauthadd");
   }
-  void pick(int row) { ASSERT_TRUE(act("split.list", "select", std::to_string(row).c_str())); }
-  void preset(int id) {
-    ASSERT_TRUE(act("settings.l.permset.choice", "select", std::to_string(id).c_str()));
-  }
-  void tick(char code, const char* column, bool on) {
-    std::string path = std::string("settings.l.permcustom.") + code + "." + column + ".check";
-    ASSERT_TRUE(act(path.c_str(), "click", on ? "1" : "0"));
-  }
 
   NameResolverSystemAuth resolver;
   std::string host;

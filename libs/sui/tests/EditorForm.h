@@ -61,6 +61,17 @@ protected:
     mui::MuElement* element = at(path, dialog);
     return element && element->perform(action, argument);
   }
+  /// Selects the list's row as a user would.
+  void pick(int row) { ASSERT_TRUE(act("split.list", "select", std::to_string(row).c_str())); }
+  /// Chooses a preset by its id.
+  void preset(int id) {
+    ASSERT_TRUE(act("settings.l.permset.choice", "select", std::to_string(id).c_str()));
+  }
+  /// Turns the box of `code` in `column` ("allow" or "deny") on or off.
+  void tick(char code, const char* column, bool on) {
+    std::string path = std::string("settings.l.permcustom.") + code + "." + column + ".check";
+    ASSERT_TRUE(act(path.c_str(), "click", on ? "1" : "0"));
+  }
   /// The dialog named `name` that is shown now, or null.
   mui::MuDialog* shownDialog(const char* name) {
     for (mui::MuDialog* dialog : root->dialogs()) {

@@ -100,14 +100,6 @@ protected:
   }
   bool helpShown() { return at("settings.l.permcustom.help")->isVisible(); }
   std::string presets() { return choice()->describeItems().get(); }
-  void pick(int row) { ASSERT_TRUE(act("split.list", "select", std::to_string(row).c_str())); }
-  void preset(int id) {
-    ASSERT_TRUE(act("settings.l.permset.choice", "select", std::to_string(id).c_str()));
-  }
-  void click(char code, const char* column, bool on) {
-    std::string path = std::string("settings.l.permcustom.") + code + "." + column + ".check";
-    ASSERT_TRUE(act(path.c_str(), "click", on ? "1" : "0"));
-  }
 };
 
 constexpr const char* allPresets = "0:No access\n1:View-only permissions\n2:Normal permissions\n"
@@ -162,14 +154,14 @@ TEST_F(PermissionsEditorTest, PresetsAndBoxesChangeTheEntryAndTellTheScheme) {
   preset(2);
   EXPECT_EQ(operable(), "");
   preset(4);
-  click('q', "deny", true);
-  click('q', "allow", true);
+  tick('q', "deny", true);
+  tick('q', "allow", true);
   EXPECT_EQ(boxes(), "s+ k+ p+ c+ q+") << "allow turned deny off";
-  click('q', "deny", true);
+  tick('q', "deny", true);
   EXPECT_EQ(boxes(), "s+ k+ p+ c+ q!");
-  click('k', "allow", false);
-  click('q', "deny", false);
-  click('k', "allow", true);
+  tick('k', "allow", false);
+  tick('q', "deny", false);
+  tick('k', "allow", true);
   EXPECT_EQ(choice()->getValue(), 4) << "custom stays, though the letters are a preset's";
   preset(3);
   EXPECT_EQ(boxes(), "s+ k+ p+ c+ q+");
