@@ -104,11 +104,14 @@ void MuCommonQt::updateAccessibleName() {
 }
 
 void MuCommonQt::setVisible(bool show) {
-  widget_->setVisible(show);
+  if (widget_)
+    widget_->setVisible(show);
 }
 
 bool MuCommonQt::isVisible() {
-  return !widget_->isHidden();
+  // A dialog's window goes with the window it was made over, when that goes
+  // first; the dialog then counts as hidden, so that it can still be destroyed.
+  return widget_ && !widget_->isHidden();
 }
 
 void MuCommonQt::moveFocusOn() {

@@ -107,6 +107,17 @@ TEST_F(QtDialogs, QtsQuitRequestsEndTheLoopOrTheModalRun) {
   }
 }
 
+TEST_F(QtDialogs, ADialogOutlivingTheDialogItWasMadeOverCanStillGo) {
+  std::unique_ptr<MuDialog> child(makeDialog("child", MuDialog::WindowModal, dialog.get()));
+  LabelLeafQt::create(child.get(), "label", "Left open");
+  dialog->setVisible(true);
+  child->setVisible(true);
+  processFor(20);
+  dialog.reset();
+  EXPECT_FALSE(child->isVisible());
+  child.reset();
+}
+
 TEST_F(QtDialogs, APressOnTheBackgroundDragsTheWindow) {
   LabelLeafQt* label = LabelLeafQt::create(dialog.get(), "label", "Drag me");
   dialog->setMoveCallback(MuDialog::moveCallbackExceptButtons());
