@@ -70,6 +70,8 @@ AccountPickerDlg::AccountPickerDlg(mui::MuDialog* owner, bool multiSelect,
   MuLayout* filterRow = MuLayout::create(layout, nullptr, MuLayout::Horizontal);
   search_ = mui::MuEdit::create(filterRow, "search", XN_TEXT(textkey::smisc_accountpicker_search));
   filterRow->setChildLayout(search_, MuLayout::Weighted, 1);
+  // The box takes the room beside its caption, not just its own least width.
+  search_->setLabelLayout(search_->labelWidth() + mui::Mui::metric(mui::MetricLabelGap), -1);
   kind_ = mui::MuChoice::create(filterRow, "kind", XN_TEXT(textkey::smisc_accountpicker_show), 0);
   kind_->addItem(UsersAndGroups, XN_TEXT(textkey::smisc_accountpicker_show_all));
   kind_->addItem(Users, XN_TEXT(textkey::smisc_accountpicker_show_users));
