@@ -42,6 +42,9 @@ MuScrollQt::MuScrollQt(MuContainer* parent, const char* name, int scrollStyle)
   area->setFrameShape((scrollStyle & ThinBorder) ? QFrame::StyledPanel : QFrame::NoFrame);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // A scroll holds part of a form, which stands on the window's background;
+  // Qt's scroll areas paint the background of a text field.
+  area->viewport()->setBackgroundRole(QPalette::Window);
   auto peer = std::make_unique<MuCommonQt>(this, area);
   peer->setChildArea(area->viewport());
   setCommon(std::move(peer));

@@ -41,5 +41,18 @@ TEST_F(QtForm, AScrollShowsItsBarAndScrollsByWheelAndToAChild) {
   dialog->setVisible(false);
 }
 
+TEST_F(QtForm, AScrollShowsTheWindowsBackgroundBehindItsContent) {
+  auto* scroll =
+      static_cast<MuScrollQt*>(MuScroll::create(dialog.get(), "s", MuScroll::VerticalBar));
+  MuLayout::create(scroll, "column", MuLayout::Vertical);
+  dialog->setVisible(true);
+  processFor(20);
+  const QImage shown = window()->grab().toImage();
+  const QPoint inside = scroll->area()->viewport()->geometry().center();
+  EXPECT_EQ(shown.pixelColor(scroll->area()->mapTo(window(), inside)),
+            window()->palette().color(QPalette::Window));
+  dialog->setVisible(false);
+}
+
 } // namespace
 } // namespace mui::test
