@@ -2,8 +2,11 @@
 
 #include "oxnpermissionscreator/CommandLine.h"
 #include "oxnpermissionscreator/FeaturePermissions.h"
+#include "oxnpermissionscreator/NativeUi.h"
+#include "oxnpermissionscreator/PermissionsDialog.h"
 #include "oxnpermissionscreator/TextKeys.h"
 
+#include "os/AppLoop.h"
 #include "plat/Configuration.h"
 #include "plat/Exception.h"
 #include "plat/LogSrc.h"
@@ -47,13 +50,23 @@ void startUp(int argc, char** argv) {
   defineFeaturePermissions();
 }
 
+int runDialog() {
+  std::unique_ptr<NativeUi> native = makeNativeUi();
+  os::AppLoop loop;
+  native->installToolkit();
+  {
+    PermissionsDialog dialog;
+    dialog.open();
+    // It ends when the window is closed, and with nothing else that matters.
+    loop.run();
+  }
+  return exitSuccess;
+}
+
 int runProgram(int argc, char** argv) {
   return runGuarded([argc, argv] {
     startUp(argc, argv);
-    // The toolkit's stages follow here: the application loop, the toolkit's
-    // root and its element factories, the dialog, its loop; then the dialog
-    // and the loop go, in that order.
-    return exitSuccess;
+    return runDialog();
   });
 }
 

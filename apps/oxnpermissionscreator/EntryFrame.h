@@ -24,6 +24,12 @@ int runGuarded(const std::function<int()>& body);
 /// feature permissions. Raises what goes wrong.
 void startUp(int argc, char** argv);
 
+/// The toolkit's part, in order: the platform's application object, the
+/// application loop, the toolkit's root with its element factories, the
+/// dialog, opened; the loop runs until the dialog is closed; then the dialog
+/// and the loop go. Returns exitSuccess.
+int runDialog();
+
 /// The whole program: start-up and run, inside the handler. Returns the exit code.
 int runProgram(int argc, char** argv);
 

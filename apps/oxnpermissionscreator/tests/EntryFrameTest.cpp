@@ -43,21 +43,21 @@ TEST(EntryFrame, BodyResultIsTheExitCode) {
   EXPECT_EQ(app::runGuarded([] { return app::exitSuccess; }), app::exitSuccess);
 }
 
-TEST(EntryFrame, WithoutArgumentsRunsToTheEndAndDefinesTheTwelveLetters) {
+TEST(EntryFrame, StartUpWithoutArgumentsDefinesTheTwelveLetters) {
   plat::test::TempDir stateHome;
   ASSERT_EQ(setenv("XDG_STATE_HOME", stateHome.path().c_str(), 1), 0);
   char program[] = "oxnpermissionscreator";
   char* argv[] = {program, nullptr};
 
-  EXPECT_EQ(app::runProgram(1, argv), app::exitSuccess);
+  app::startUp(1, argv);
   EXPECT_EQ(definedLetters(), "skpcznlhtrwq");
   EXPECT_STREQ(product::productVersion(), "7.19.0 (r13)");
   EXPECT_STREQ(product::productBuildVersion(), "7.19.0.13");
   ASSERT_EQ(app::processArgumentCount(), 1);
   EXPECT_STREQ(app::processArguments()[0], "oxnpermissionscreator");
 
-  // A second run must not define anything twice.
-  EXPECT_EQ(app::runProgram(1, argv), app::exitSuccess);
+  // A second start-up must not define anything twice.
+  app::startUp(1, argv);
   EXPECT_EQ(definedLetters(), "skpcznlhtrwq");
 }
 

@@ -130,6 +130,11 @@ QColor MuiQt::colour(const char* name, const char* fallback) {
   return QColor(rgb.red, rgb.green, rgb.blue);
 }
 
+void prepareQtApplication() {
+  if (!qEnvironmentVariableIsSet("QT_ENABLE_HIGHDPI_SCALING"))
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+}
+
 void installQtBinding(MuiQt& root) {
   Mui::setInstance(&root);
   muDialogFactory = &MuDialogQt::make;

@@ -48,6 +48,13 @@ private:
   std::map<std::tuple<int, int, int, int>, QFont> fonts_;
 };
 
+/// Prepares Qt for the binding; called before the process's QApplication is
+/// made. The toolkit scales itself by "ppmm", from the screen's logical
+/// density, so Qt's own scaling is switched off unless the environment asks
+/// for it: Qt then reports the desktop's density (Xft.dpi) as the screen's
+/// logical one and draws in device pixels.
+void prepareQtApplication();
+
 /// Makes `root` the toolkit's root and installs every factory hook of the Qt binding.
 void installQtBinding(MuiQt& root);
 
