@@ -3,6 +3,7 @@
 #include "oxnpermissionscreator/EntryFrame.h"
 #include "oxnpermissionscreator/TextKeys.h"
 
+#include "cloudAuth/PermissionsSchemeCloudSso.h"
 #include "loc/Localize.h"
 #include "mui/MuAboutDialog.h"
 #include "mui/MuButton.h"
@@ -11,6 +12,7 @@
 #include "mui/MuFrame.h"
 #include "mui/MuImage.h"
 #include "mui/MuLayout.h"
+#include "mui/MuList.h"
 #include "mui/MuScroll.h"
 #include "mui/MuSpacer.h"
 #include "mui/MuStatic.h"
@@ -18,11 +20,18 @@
 #include "os/AppInfo.h"
 #include "os/AppLoop.h"
 #include "plat/ConfigParameter.h"
+#include "plat/Configuration.h"
+#include "plat/Exception.h"
 #include "product/ProductInfo.h"
 #include "smisc/PermissionsParameter.h"
+#include "smisc/PermissionsSchemeNtLogon.h"
+#include "sysauth/SecurityPrincipal.h"
+#include "sysauth/SecurityPrincipalList.h"
+#include "xnauth/PermissionDefn.h"
 
 #include <algorithm>
 #include <climits>
+#include <cstring>
 
 namespace app {
 
@@ -39,6 +48,9 @@ constexpr int sectionGap = 20;
 // Ids of the items of the scheme choice.
 constexpr int systemSchemeId = 0;
 constexpr int cloudSsoSchemeId = 1;
+
+// The letters whose rows the editor's form makes itself.
+constexpr const char* formLetters = "skpc";
 
 // A spacer that takes the spare room of its row.
 void addExpander(MuLayout* row) {
@@ -68,15 +80,33 @@ PermissionsDialog::PermissionsDialog() {
   mui::MuAboutDialog::setTexts(product::versionLine, product::aboutText);
   aboutDialog_ = std::make_unique<mui::MuAboutDialog>(dialog_.get(), nullptr);
   buildFrame();
+  createForm(main_);
+  main_->setChildLayout(split_, MuLayout::Weighted, 1);
+  for (const xnauth::PermissionDefn& definition : xnauth::getPermissionDefns()) {
+    if (!std::strchr(formLetters, definition.code))
+      addPermissionRow(definition.code);
+  }
+  ntLogonScheme_ = new smisc::PermissionsSchemeNtLogon(this);
+  addScheme("System", ntLogonScheme_);
+  cloudSsoScheme_ = new cloudAuth::PermissionsSchemeCloudSso(this, "Permissions");
+  addScheme("CloudSso", cloudSsoScheme_);
+  sysauth::nameResolver = &nameResolver_;
   buildTextArea();
   dialog_->setButton(mui::MuDialog::DefaultButton, refreshText_);
   dialog_->setActivateCallback(this);
   permissionString_->addObserver(this);
   permissionString_->setText(smisc::permissionsParameter.getValueString().get());
+  // Events walk up the tree, so this one registration hears the whole form.
   dialog_->addObserver(this);
 }
 
-PermissionsDialog::~PermissionsDialog() = default;
+// The schemes, which the editor deletes, outlive the window: an add dialog
+// that was left open goes with its scheme.
+PermissionsDialog::~PermissionsDialog() {
+  sysauth::nameResolver = nullptr;
+  aboutDialog_.reset();
+  dialog_.reset();
+}
 
 // The whole form scrolls when the window is too small for it. The frame
 // inside the scroll takes over the dialog's margin, so that the scroll
@@ -93,8 +123,9 @@ void PermissionsDialog::buildFrame() {
   schemeChoice_->setValue(systemSchemeId);
 }
 
-// From the first gap down: the two buttons between their arrows, the
-// parameter's caption, its edit box, and the About link at the right.
+// Under the form: the two buttons between their arrows, which point the way
+// each one carries the content, the parameter's caption, its edit box, and
+// the About link at the right.
 void PermissionsDialog::buildTextArea() {
   addGap(main_);
   MuLayout* buttons = MuLayout::create(main_, "tl", MuLayout::Horizontal);
@@ -120,13 +151,63 @@ void PermissionsDialog::buildTextArea() {
 
 void PermissionsDialog::open() {
   dialog_->setVisible(true);
+  // The system scheme is in force at the start, whatever the text says.
+  schemeChoice_->setValue(systemSchemeId);
+  setScheme(ntLogonScheme_);
+  showSettings();
+  clearBoxes(false);
+}
+
+plat::Configuration* PermissionsDialog::getConfiguration() {
+  return &plat::Configuration::global();
+}
+
+void PermissionsDialog::insertEntry(int index, const char* text, const char* imageName) {
+  lastInserted_ = index;
+  clearBoxes(true);
+  PermissionsEditor::insertEntry(index, text, imageName);
+  scheme_->selectionChanged(lastInserted_);
+  list_->setSelection(lastInserted_);
+}
+
+// The selection of the first row raises no event: the boxes stay disabled,
+// and the row that shows as selected isn't the one the editor selected.
+void PermissionsDialog::removeEntry(int index) {
+  PermissionsEditor::removeEntry(index);
+  refreshText_->setEnabled(true);
+  showSettings();
+  clearBoxes(false);
+  if (list_->rowCount() > 0) {
+    lastInserted_ = 0;
+    list_->setSelection(0);
+  }
 }
 
 void PermissionsDialog::handleEvent(mui::MuElement* source, int event) {
   MuObserver::handleEvent(source, event);
+  PermissionsEditor::handleEvent(source, event);
+  if (event == mui::EventChanged)
+    scroll_->relayout();
+}
+
+void PermissionsDialog::changed(mui::MuElement* source) {
+  if (source != schemeChoice_) {
+    PermissionsEditor::changed(source);
+    return;
+  }
+  // The new scheme reads the same parameter, in its own form; the edit box
+  // keeps its text.
+  if (schemeChoice_->getValue() == cloudSsoSchemeId)
+    setScheme(cloudSsoScheme_);
+  else
+    setScheme(ntLogonScheme_);
+  showSettings();
+  clearBoxes(false);
+  relayoutMain();
 }
 
 void PermissionsDialog::clicked(mui::MuElement* source) {
+  PermissionsEditor::clicked(source);
   if (source == refreshUi_)
     applyText();
   else if (source == refreshText_)
@@ -135,13 +216,59 @@ void PermissionsDialog::clicked(mui::MuElement* source) {
     aboutDialog_->show();
 }
 
+// The text is stored whether or not it is valid. The system scheme answers a
+// bad text with an empty list; the single sign-on scheme lets the parse
+// failure through. Since the scheme inserts in list order, the entry that
+// ends up selected is the last one.
 void PermissionsDialog::applyText() {
   smisc::permissionsParameter.setFromString(permissionString_->getText().get(),
                                             plat::priorityPreference);
+  list_->removeAll();
+  scheme_->activate();
+  if (list_->rowCount() > 0) {
+    selectEntry(lastInserted_);
+    scheme_->selectionChanged(lastInserted_);
+  }
+  relayoutMain();
 }
 
+// Reading the written text back into an access list runs the account check
+// again, for its log lines; the list itself is not wanted, and a text that
+// doesn't read as one (single sign-on entries) is no failure here.
 void PermissionsDialog::showParameter() {
-  permissionString_->setText(smisc::permissionsParameter.getValueString().get());
+  scheme_->permissionsChanged(0, 0);
+  const plat::String text = smisc::permissionsParameter.getValueString();
+  try {
+    sysauth::SecurityPrincipalList().parse(text.get(), false);
+  } catch (const plat::Exception&) {
+  }
+  permissionString_->setText(text.get());
+}
+
+void PermissionsDialog::showSettings() {
+  settings_->setVisible(true);
+  settingsLayout_->setVisible(true);
+  choice_->setVisible(true);
+  permset_->setVisible(true);
+}
+
+void PermissionsDialog::clearBoxes(bool keepHelp) {
+  for (const xnauth::PermissionDefn& definition : xnauth::getPermissionDefns()) {
+    const char code[2] = {definition.code, '\0'};
+    mui::MuElement* row = permcustom_->find(code);
+    if (!row)
+      continue;
+    row->find("allow.check")->setEnabled(false);
+    row->find("deny.check")->setEnabled(false);
+  }
+  if (!keepHelp)
+    customHelp_->setVisible(false);
+  relayoutMain();
+}
+
+void PermissionsDialog::relayoutMain() {
+  main_->relayout();
+  main_->parent()->relayout();
 }
 
 void PermissionsDialog::dialogClosed(mui::MuDialog*) {

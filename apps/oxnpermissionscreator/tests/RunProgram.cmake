@@ -8,6 +8,8 @@
 #         [-DEXPECT_FILE=<path> -DEXPECT_FILE_CONTENT=<regex>]
 #         [-DENVIRONMENT=<NAME=value settings separated by |>]
 #         [-DSETTINGS=<the user's stored settings, lines separated by |>]
+#         [-DCLOSER=<e2e/run_closed.py, run by the system's Python: the program
+#                    runs on a virtual desktop, and its window is closed once shown>]
 #         -P RunProgram.cmake
 #
 # The locale variables start neutral, so that the program speaks English
@@ -33,7 +35,11 @@ if(DEFINED SETTINGS)
   string(REPLACE "|" "\n" settings_text "${SETTINGS}")
   file(WRITE ${STATE_HOME}/config/Ostrand/oxnpermissionscreator.conf "${settings_text}\n")
 endif()
-execute_process(COMMAND ${PROGRAM} ${arguments}
+set(command ${PROGRAM} ${arguments})
+if(DEFINED CLOSER)
+  list(PREPEND command /usr/bin/python3 ${CLOSER})
+endif()
+execute_process(COMMAND ${command}
                 RESULT_VARIABLE code OUTPUT_VARIABLE out ERROR_VARIABLE err)
 if(NOT code STREQUAL EXPECT_EXIT)
   message(FATAL_ERROR "exit code ${code}, expected ${EXPECT_EXIT}\nstdout:\n${out}\nstderr:\n${err}")

@@ -38,9 +38,13 @@ def wait_for(what, probe, timeout=10.0, interval=0.05):
 
 
 class Desktop:
-    def __init__(self, dpi=96, size=(1280, 1024), accessibility=True):
+    def __init__(self, dpi=96, size=(1280, 1024), accessibility=True, own_home=True):
+        """`own_home` gives the programs a home and settings directories of
+        their own, else they keep this process's."""
         self.dpi = dpi
         self.accessibility = accessibility
+        self.own_home = own_home
+        self.atspi = None
         self.size = size
         self.processes = []
         self.home = tempfile.mkdtemp(prefix="oxn-e2e-")
@@ -61,7 +65,8 @@ class Desktop:
         width, height = self.size
         self._spawn(["Xvfb", "-displayfd", str(write_end), "-screen", "0",
                      f"{width}x{height}x24", "-dpi", str(self.dpi), "-nolisten", "tcp",
-                     "-noreset"], pass_fds=(write_end,))
+                     "-noreset"], pass_fds=(write_end,), stdout=subprocess.DEVNULL,
+                    stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as announced:
             number = announced.readline().strip()
@@ -87,15 +92,15 @@ class Desktop:
         env = {key: value for key, value in os.environ.items()
                if key not in ("LANGUAGE", "LC_ALL", "LC_MESSAGES", "QT_SCALE_FACTOR",
                               "QT_FONT_DPI", "QT_ENABLE_HIGHDPI_SCALING")}
-        env.update({
-            "DISPLAY": self.display_name,
-            "LANG": "C.UTF-8",
-            "HOME": self.home,
-            "XDG_CONFIG_HOME": os.path.join(self.home, "config"),
-            "XDG_STATE_HOME": os.path.join(self.home, "state"),
-            "XDG_RUNTIME_DIR": self.home,
-            "QT_QPA_PLATFORM": "xcb",
-        })
+        env.update({"DISPLAY": self.display_name, "XDG_RUNTIME_DIR": self.home,
+                    "QT_QPA_PLATFORM": "xcb"})
+        if self.own_home:
+            env.update({
+                "LANG": "C.UTF-8",
+                "HOME": self.home,
+                "XDG_CONFIG_HOME": os.path.join(self.home, "config"),
+                "XDG_STATE_HOME": os.path.join(self.home, "state"),
+            })
         if self.accessibility:
             env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         return env
@@ -114,6 +119,10 @@ class Desktop:
         process = self._spawn([program, *arguments], env=environment,
                               stdout=subprocess.DEVNULL, stderr=log)
         return Program(self, process, log)
+
+    def attach(self, process):
+        """A Program for a process that the caller started on this desktop."""
+        return Program(self, process, None)
 
     def windows(self):
         """The top-level windows that are mapped now, as Xlib windows."""
@@ -166,6 +175,8 @@ class Program:
         self.atspi = desktop.atspi
 
     def stderr(self):
+        if self.log is None:
+            return "(on the caller's standard error)"
         self.log.flush()
         self.log.seek(0)
         return self.log.read()
