@@ -243,13 +243,34 @@ class Program:
                         lambda: self.atspi.findDescendant(root or self.application(), matches),
                         timeout)
 
-    def edit(self, path, root=None):
-        """The text field of the edit element at `path` (which stands beside its caption)."""
-        return self.atspi.findDescendant(
-            self.element(path, root), lambda node: node.getRole() == self.atspi.ROLE_TEXT)
+    def edit(self, path):
+        """The text field of the edit at `path`, which stands beside its caption."""
+        return self.part(path, self.atspi.ROLE_TEXT)
+
+    def choice(self, path):
+        """The drop-down list of the choice at `path`; its name is the chosen item."""
+        return self.part(path, self.atspi.ROLE_COMBO_BOX)
+
+    def part(self, path, role):
+        return self.atspi.findDescendant(self.element(path), lambda node: node.getRole() == role)
+
+    def rows(self, path):
+        """The texts of a list's rows, as its text cells name them."""
+        cells = self.atspi.findAllDescendants(
+            self.element(path), lambda node: node.getRole() == self.atspi.ROLE_TABLE_CELL)
+        return [cell.name for cell in cells if cell.name]
+
+    def row(self, path, text):
+        """The accessible cell of the list's row that shows `text`."""
+        return wait_for(f"row {text} of {path}", lambda: self.atspi.findDescendant(
+            self.element(path), lambda node: node.getRole() == self.atspi.ROLE_TABLE_CELL
+            and node.name == text))
 
     def elements(self, predicate, root=None):
         return self.atspi.findAllDescendants(root or self.application(), predicate)
+
+    def is_enabled(self, node):
+        return node.getState().contains(self.atspi.STATE_ENABLED)
 
     def is_showing(self, node):
         return node.getState().contains(self.atspi.STATE_SHOWING)

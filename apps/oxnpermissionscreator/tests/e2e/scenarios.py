@@ -94,6 +94,96 @@ def ctrl_a_in_the_edit_box_selects_the_whole_text(desktop, run, artifacts):
     expect_equal(program.wait_exit(), 0, "exit code")
 
 
+def wait_for_text(program, edit, expected):
+    wait_for(f"the text {expected!r}", lambda: program.text(edit) == expected)
+
+
+def wait_for_rows(program, expected):
+    wait_for(f"the rows {expected}", lambda: program.rows("split.list") == expected)
+
+
+def close_and_expect_zero(program, window):
+    program.close_window(window)
+    expect_equal(program.wait_exit(), 0, "exit code after the window manager's close")
+
+
+@scenario
+def a_preset_reaches_the_text_through_refresh_parameter(desktop, run, artifacts):
+    program = run("-Permissions=S-1-5-32-545:v,S-1-5-32-544:d")
+    window = program.window(title=TITLE)
+    wait_for_rows(program, ["BUILTIN\\Administrators", "BUILTIN\\Users"])
+    edit = program.edit("permissionstring")
+    program.click(program.row("split.list", "BUILTIN\\Users"))
+    choice = program.choice("permset.choice")
+    wait_for("the presets to be offered", lambda: program.is_enabled(choice))
+    program.click(choice)
+    desktop.key("Down", "Down", "Return")
+    wait_for("the administrative preset",
+             lambda: choice.name == "Administrative permissions")
+    desktop.screenshot(os.path.join(artifacts, "preset.png"), window)
+    expect_equal(program.text(edit), "S-1-5-32-545:v,S-1-5-32-544:d", "the box before the refresh")
+    program.click(program.element("refreshtext"))
+    wait_for_text(program, edit, "S-1-5-32-544:d,S-1-5-32-545:f")
+    close_and_expect_zero(program, window)
+
+
+@scenario
+def the_typed_add_dialog_adds_a_group(desktop, run, artifacts):
+    program = run()
+    window = program.window(title=TITLE)
+    program.click(program.element("split.buttons.add"))
+    picker = program.window(title="Select users or groups")
+    desktop.screenshot(os.path.join(artifacts, "picker.png"), picker)
+    program.click(program.element("typed"))
+    typed = program.window(title="Add user or group")
+    desktop.type("adm")
+    desktop.key("shift+Tab", "Down")
+    wait_for("the group type", lambda: program.choice("type").name == "Group")
+    desktop.screenshot(os.path.join(artifacts, "typed-add.png"), typed)
+    desktop.key("Return")
+    wait_for("the add dialog to close", lambda: typed not in desktop.windows())
+    wait_for("the group in the list",
+             lambda: [row for row in program.rows("split.list") if row.endswith("\\adm")])
+    edit = program.edit("permissionstring")
+    program.click(program.element("refreshtext"))
+    wait_for_text(program, edit, "%adm:d")
+    close_and_expect_zero(program, window)
+
+
+@scenario
+def an_edited_text_reaches_the_list(desktop, run, artifacts):
+    program = run("-Permissions=S-1-5-32-544:d")
+    window = program.window(title=TITLE)
+    wait_for_rows(program, ["BUILTIN\\Administrators"])
+    edit = program.edit("permissionstring")
+    program.click(edit)
+    desktop.key("ctrl+a")
+    desktop.type("S-1-5-32-545:v")
+    program.click(program.element("refreshui"))
+    wait_for_rows(program, ["BUILTIN\\Users"])
+    program.click(edit)
+    desktop.key("End")
+    desktop.type(",%S-1-5-32-546:!q")
+    desktop.key("Return")
+    wait_for_rows(program, ["BUILTIN\\Users", "BUILTIN\\Guests"])
+    close_and_expect_zero(program, window)
+
+
+@scenario
+def the_cloud_scheme_reads_the_text_in_its_own_form(desktop, run, artifacts):
+    text = "11111111-2222-3333-4444-555555555555:Sales:d"
+    program = run(f"-Permissions={text}")
+    window = program.window(title=TITLE)
+    program.element("split.list")
+    expect_equal(program.rows("split.list"), [], "system entries of a three-field text")
+    program.click(program.choice("schemeChoice"))
+    desktop.key("Down", "Return")
+    wait_for_rows(program, ["Sales"])
+    desktop.screenshot(os.path.join(artifacts, "cloud.png"), window)
+    expect_equal(program.text(program.edit("permissionstring")), text, "the box keeps its text")
+    close_and_expect_zero(program, window)
+
+
 def main():
     name, program_path, artifacts = sys.argv[1:4]
     if name not in SCENARIOS:
