@@ -114,13 +114,11 @@ int MuSuperbox::minControlHeight() {
 }
 
 void MuSuperbox::setLabelLayout(int labelWidth, int controlWidth) {
-  if (LabelWrapper* wrapper = LabelWrapper::of(this))
-    wrapper->setLabelLayout(labelWidth, controlWidth);
+  LabelWrapper::setLabelLayoutOf(this, labelWidth, controlWidth);
 }
 
 int MuSuperbox::labelWidth() {
-  LabelWrapper* wrapper = LabelWrapper::of(this);
-  return wrapper ? wrapper->labelWidth() : MuElement::labelWidth();
+  return LabelWrapper::labelWidthOf(this);
 }
 
 const char* MuSuperbox::typeName() {

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QResizeEvent>
 
 namespace mui {
@@ -81,6 +82,15 @@ Point screenPoint(const QMouseEvent* event) {
 }
 
 } // namespace
+
+void DialogWindowQt::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!dialog_ || !(dialog_->dialogStyle() & MuDialog::Border))
+    return;
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
 
 void DialogWindowQt::mousePressEvent(QMouseEvent* event) {
   bool taken = false;

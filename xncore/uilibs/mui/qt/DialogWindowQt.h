@@ -21,6 +21,8 @@ protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  /// A dialog with the Border style draws a plain thin border around itself.
+  void paintEvent(QPaintEvent* event) override;
   /// Presses that no control took come here from the widget they landed on.
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -19,7 +19,8 @@ Qt::WindowFlags windowFlags(int style) {
            Qt::WindowDoesNotAcceptFocus;
   Qt::WindowFlags flags =
       Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-  if (style & MuDialog::NoCaption)
+  // A child of the desktop has no caption, like a window without one.
+  if (style & (MuDialog::NoCaption | MuDialog::DesktopChild))
     flags = Qt::Window | Qt::FramelessWindowHint;
   if (!(style & MuDialog::DisableClose))
     flags |= Qt::WindowCloseButtonHint;
@@ -37,8 +38,10 @@ Qt::WindowFlags windowFlags(int style) {
 MuDialogQt::MuDialogQt(const char* name, const char* title, const Size* size, int style,
                        MuDialog* parentDialog, os::Window* parentWindow)
     : MuDialog(name, size, style, parentDialog, parentWindow),
-      window_(
-          new DialogWindowQt(this, WindowQt::widgetOf(this->parentWindow()), windowFlags(style))),
+      // A child of the desktop belongs to no other window.
+      window_(new DialogWindowQt(
+          this, (style & DesktopChild) ? nullptr : WindowQt::widgetOf(this->parentWindow()),
+          windowFlags(style))),
       windowService_(window_.data()) {
   applyModality();
   window_->setAttribute(Qt::WA_ShowWithoutActivating,
@@ -72,6 +75,8 @@ void MuDialogQt::applyModality() {
 
 void MuDialogQt::setParentWindow(os::Window* window) {
   MuDialog::setParentWindow(window);
+  if (dialogStyle() & DesktopChild)
+    return;
   const bool shown = window_->isVisible();
   window_->setParent(WindowQt::widgetOf(window), window_->windowFlags());
   applyModality();
