@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QColor>
+#include <QFont>
 #include <QHeaderView>
 #include <QIcon>
 #include <QTest>
@@ -99,6 +101,30 @@ TEST_F(ListsQt, TheViewShowsColumnsHeadersAndImages) {
   EXPECT_FALSE(pixmap(0).toImage() == pixmap(1).toImage()) << "user and group look alike";
   EXPECT_TRUE(pixmap(2).isNull());
   EXPECT_EQ(view->model()->index(2, 1).data().toString(), "bob");
+}
+
+TEST_F(QtForm, AListsCallbackStylesItsCellsAndRefusesRows) {
+  struct Styler : MuList::Callback {
+    bool isSelectable(MuList*, int row) override { return row != 1; }
+    bool getCellStyle(MuList*, int row, int columnId, MuStyle* style) override {
+      if (row != 0 || columnId != 5)
+        return false;
+      style->textColour = plat::String("red");
+      style->fontWeight = 700;
+      return true;
+    }
+  } styler;
+  auto* list = static_cast<MuListQt*>(MuList::create(dialog.get(), "list", 0, &styler));
+  list->addColumn(5, MuList::TextColumn, "", 0);
+  list->addRow(-1, "styled");
+  list->addRow(-1, "refused");
+  const QModelIndex styled = list->view()->model()->index(0, 0);
+  EXPECT_EQ(styled.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+  EXPECT_TRUE(styled.data(Qt::FontRole).value<QFont>().bold());
+  EXPECT_FALSE(list->view()->model()->index(1, 0).data(Qt::ForegroundRole).isValid());
+  EXPECT_FALSE(list->view()->model()->flags(list->view()->model()->index(1, 0)) &
+               Qt::ItemIsSelectable);
+  EXPECT_TRUE(list->view()->isHeaderHidden());
 }
 
 } // namespace
