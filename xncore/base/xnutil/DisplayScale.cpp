@@ -6,7 +6,7 @@ namespace xnutil {
 
 namespace {
 
-constexpr int buildScaleFactor = 1;
+int devicePercent = 100;
 constexpr int singleDensityScale = 4;
 
 /// n / 8 rounded half away from zero.
@@ -19,7 +19,15 @@ std::int32_t eighths(std::int64_t n) {
 int displayScale() {
   const plat::Configuration& global = plat::Configuration::global();
   const int ppmm = global.findParam("ppmm") ? global.getInt("ppmm") : singleDensityScale;
-  return ppmm * buildScaleFactor;
+  return (ppmm * devicePercent + 50) / 100;
+}
+
+void setDeviceScalePercent(int percent) noexcept {
+  devicePercent = percent < 100 ? 100 : percent > 400 ? 400 : percent;
+}
+
+int deviceScalePercent() noexcept {
+  return devicePercent;
 }
 
 rfb::Size singleDensitySize(rfb::Size image, int scale) {

@@ -1,6 +1,7 @@
 #include "plat/IntParameter.h"
 #include "rfb/ManagedPixelBuffer.h"
 #include "xnutil/BuiltinResources.h"
+#include "xnutil/DisplayScale.h"
 #include "xnutil/ImageExceptions.h"
 #include "xnutil/NamedImageLoader.h"
 #include "xnutil/tests/PngSamples.h"
@@ -16,6 +17,22 @@ namespace {
 
 // The toolkit declares "ppmm"; this program stands in for it.
 plat::IntParameter ppmm("ppmm", "Physical display units per mm.", 4, true, nullptr, 1, 32);
+
+TEST(DisplayScale, IsPpmmTimesTheDevicesScale) {
+  struct Row {
+    int ppmm;
+    int percent;
+    int scale;
+  } rows[] = {{4, 100, 4}, {5, 100, 5}, {4, 200, 8}, {4, 150, 6},
+              {5, 150, 8}, {4, 50, 4},  {8, 999, 32}};
+  for (const Row& row : rows) {
+    ppmm.setInt(row.ppmm, 10);
+    setDeviceScalePercent(row.percent);
+    EXPECT_EQ(displayScale(), row.scale) << row.ppmm << " at " << row.percent << "%";
+  }
+  setDeviceScalePercent(100);
+  ppmm.unset(10, false);
+}
 
 /// A finder over a table of image sizes that records what it was asked for.
 struct TableFinder : NamedImageFinder {

@@ -31,10 +31,8 @@ std::u32string TextModelHeadless::shown(const char* text) const {
   const char* cursor = text ? text : "";
   while (*cursor) {
     int c = plat::decodeUtf8(cursor);
-    if (c < 0) {
-      c = plat::replacementChar;
-      ++cursor;
-    }
+    if (c < 0)
+      c = plat::replacementChar; // the decoder has stepped over the bad sequence
     if (mnemonics_ && c == '&') {
       if (*cursor != '&')
         continue;

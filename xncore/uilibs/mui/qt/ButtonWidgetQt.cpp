@@ -1,5 +1,7 @@
 #include "mui/qt/ButtonWidgetQt.h"
 
+#include "mui/qt/PixelImageQt.h"
+
 #include "mui/Mui.h"
 #include "mui/qt/MuButtonQt.h"
 
@@ -95,11 +97,12 @@ void ButtonWidgetQt::paintEvent(QPaintEvent*) {
 void ButtonWidgetQt::paintContent(QPainter& painter, QRect area) {
   const int textAlign = button_->textAlign();
   const QPixmap& pixmap = button_->image(imageState());
+  const QSize imageSize = layoutSize(pixmap);
   if (button_->buttonType() == MuButton::Custom) {
     // The image is the button; the label stands inside the margins over it.
     if (!pixmap.isNull())
-      painter.drawPixmap(alignedLeft(rect(), pixmap.width(), textAlign),
-                         (height() - pixmap.height()) / 2, pixmap);
+      painter.drawPixmap(alignedLeft(rect(), imageSize.width(), textAlign),
+                         (height() - imageSize.height()) / 2, pixmap);
     const int* margins = button_->textMargins();
     area = rect().adjusted(margins[0], margins[1], -margins[2], -margins[3]);
   } else if (button_->options() & MuButton::DropDown) {
@@ -114,8 +117,8 @@ void ButtonWidgetQt::paintContent(QPainter& painter, QRect area) {
   const bool image = !pixmap.isNull() && button_->buttonType() != MuButton::Custom;
   if (text().isEmpty()) {
     if (image)
-      painter.drawPixmap(alignedLeft(area, pixmap.width(), textAlign),
-                         area.top() + (area.height() - pixmap.height()) / 2, pixmap);
+      painter.drawPixmap(alignedLeft(area, imageSize.width(), textAlign),
+                         area.top() + (area.height() - imageSize.height()) / 2, pixmap);
     return;
   }
 
@@ -138,13 +141,13 @@ void ButtonWidgetQt::paintContent(QPainter& painter, QRect area) {
   // The image leads the label; the two stand aligned as one block. The label
   // gets all the room to its right: a rectangle cut to its measured width
   // could break its last word for a fraction of a pixel.
-  const int gap = pixmap.width() + Mui::toPixels(imageGapUnits);
+  const int gap = imageSize.width() + Mui::toPixels(imageGapUnits);
   const int room = std::max(0, area.width() - gap);
   const int textWidth = std::min(
       room,
       painter.fontMetrics().boundingRect(QRect(0, 0, room, area.height()), flags, text()).width());
   const int left = alignedLeft(area, gap + textWidth, textAlign);
-  painter.drawPixmap(left, area.top() + (area.height() - pixmap.height()) / 2, pixmap);
+  painter.drawPixmap(left, area.top() + (area.height() - imageSize.height()) / 2, pixmap);
   style()->drawItemText(&painter,
                         QRect(left + gap, area.top(), area.right() + 1 - left - gap, area.height()),
                         static_cast<int>(Qt::AlignLeft) | vertical, palette, isEnabled(), text(),

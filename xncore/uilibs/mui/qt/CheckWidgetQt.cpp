@@ -1,5 +1,7 @@
 #include "mui/qt/CheckWidgetQt.h"
 
+#include "mui/qt/PixelImageQt.h"
+
 #include "mui/Mui.h"
 #include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuCommonQt.h"
@@ -46,7 +48,7 @@ void CheckWidgetQt<Base>::paintEvent(QPaintEvent*) {
   this->initStyleOption(&option);
   const QPixmap image = check_->stateImage();
   if (!image.isNull()) {
-    painter.drawPixmap(0, (this->height() - image.height()) / 2, image);
+    painter.drawPixmap(0, (this->height() - layoutSize(image).height()) / 2, image);
   } else {
     QStyleOptionButton box = option;
     box.rect = this->style()->subElementRect(

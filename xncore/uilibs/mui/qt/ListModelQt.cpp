@@ -4,6 +4,7 @@
 #include "mui/Mui.h"
 #include "mui/qt/MuiQt.h"
 #include "mui/qt/PixelBufferQt.h"
+#include "mui/qt/PixelImageQt.h"
 #include "ui/NamedImage.h"
 
 namespace mui {
@@ -56,8 +57,9 @@ QIcon ListModelQt::image(const char* name) const {
   if (!key.isEmpty()) {
     const int side = Mui::metric(MetricListImageSize);
     // The cache of named images keeps the pixels for the whole run.
-    const auto named = ui::getNamedImage(name, {side, side});
-    const QPixmap pixmap = QPixmap::fromImage(PixelBufferQt::wrap(*named));
+    const auto named = ui::getNamedImage(name, toDevicePixels({side, side}));
+    QPixmap pixmap = QPixmap::fromImage(PixelBufferQt::wrap(*named));
+    pixmap.setDevicePixelRatio(deviceRatio());
     // A selected row shows the image as it is, not tinted with the selection.
     if (!pixmap.isNull()) {
       icon.addPixmap(pixmap, QIcon::Normal);

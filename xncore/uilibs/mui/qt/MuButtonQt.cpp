@@ -75,7 +75,7 @@ const QPixmap& MuButtonQt::image(int state) const {
 }
 
 Size MuButtonQt::imageSize() {
-  const QSize size = images_[ImageNormal].size();
+  const QSize size = layoutSize(images_[ImageNormal]);
   return {size.width(), size.height()};
 }
 

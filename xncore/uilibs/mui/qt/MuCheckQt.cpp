@@ -92,7 +92,7 @@ int MuCheckQt::zeroWidth() {
 }
 
 Size MuCheckQt::imageSize() {
-  const QSize size = images_[0].size();
+  const QSize size = layoutSize(images_[0]);
   return {size.width(), size.height()};
 }
 

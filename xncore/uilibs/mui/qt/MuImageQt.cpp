@@ -27,8 +27,8 @@ protected:
     if (image_.isNull())
       return;
     QPainter painter(this);
-    painter.drawImage(QPoint((width() - image_.width()) / 2, (height() - image_.height()) / 2),
-                      image_);
+    const QSize size = layoutSize(image_);
+    painter.drawImage(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), image_);
   }
 
 private:
@@ -63,13 +63,16 @@ MuImage* MuImageQt::make(MuContainer* parent, const char* name, const char* imag
 }
 
 Size MuImageQt::getImageSize() {
-  const QImage& image = static_cast<ImageWidgetQt*>(MuCommonQt::of(this)->widget())->image();
-  return {image.width(), image.height()};
+  const QSize size =
+      layoutSize(static_cast<ImageWidgetQt*>(MuCommonQt::of(this)->widget())->image());
+  return {size.width(), size.height()};
 }
 
 bool MuImageQt::showNamedImage(const char* name, Size size) {
-  named_ = ui::getNamedImage(name, size);
-  showBuffer(named_.get());
+  named_ = ui::getNamedImage(name, toDevicePixels(size));
+  QImage image = imageOf(named_.get());
+  image.setDevicePixelRatio(deviceRatio());
+  static_cast<ImageWidgetQt*>(MuCommonQt::of(this)->widget())->setImage(std::move(image));
   return getImageSize() != Size();
 }
 

@@ -21,8 +21,12 @@
 #include "mui/qt/MuSuperboxQt.h"
 #include "mui/qt/MuTextQt.h"
 #include "plat/Assertion.h"
+#include "xnutil/DisplayScale.h"
+
+#include "loc/Localize.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QFontInfo>
 #include <QPalette>
 #include <QScreen>
@@ -81,15 +85,37 @@ bool SysColorsQt::isDark() {
 }
 
 MuiQt::MuiQt() : base_(QApplication::font()) {
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  if (screen)
+  // Qt counts the layout's pixels in device-independent units: the density
+  // they stand for is the logical one, and images are loaded finer by the
+  // device pixel ratio.
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
     ppmmParameter.setInt(ppmmForDpi(static_cast<int>(screen->logicalDotsPerInch() + 0.5)), 0);
+    xnutil::setDeviceScalePercent(static_cast<int>(screen->devicePixelRatio() * 100 + 0.5));
+  }
   setMetrics(nativeMetrics);
   baseHeight_ = QFontInfo(base_).pixelSize();
   plat::SysColors::setProvider(&colours_);
+  translateQt();
+}
+
+void MuiQt::translateQt() {
+  const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  const QStringList locales =
+      QString::fromUtf8(loc::Localize::instance().localeList().orEmpty()).split(QLatin1Char(':'));
+  for (const QString& locale : locales) {
+    if (locale.startsWith(QLatin1String("en")))
+      return; // Qt's own texts are English
+    if (qtTexts_.load(QStringLiteral("qtbase_") + locale, directory) ||
+        qtTexts_.load(QStringLiteral("qtbase_") + locale.section(QLatin1Char('_'), 0, 0),
+                      directory)) {
+      QCoreApplication::installTranslator(&qtTexts_);
+      return;
+    }
+  }
 }
 
 MuiQt::~MuiQt() {
+  QCoreApplication::removeTranslator(&qtTexts_);
   if (plat::SysColors::provider() == &colours_)
     plat::SysColors::setProvider(nullptr);
 }

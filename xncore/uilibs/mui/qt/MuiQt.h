@@ -12,6 +12,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QTranslator>
 #include <map>
 #include <tuple>
 
@@ -40,8 +41,13 @@ public:
   int messageFontHeight() const;
 
 private:
+  /// Qt's own texts (a text box's context menu, a message box's buttons) in
+  /// the first of the user's languages that Qt has them in.
+  void translateQt();
+
   SysColorsQt colours_;
   QuitRequestsQt quitRequests_;
+  QTranslator qtTexts_;
   QFont base_;
   /// The message font's pixel height at the default "ppmm".
   int baseHeight_;

@@ -3,6 +3,9 @@
 #include "rfb/PixelBuffer.h"
 #include "rfb/PixelCodec.h"
 #include "ui/NamedImage.h"
+#include "xnutil/DisplayScale.h"
+
+#include <cmath>
 
 namespace mui {
 
@@ -28,8 +31,29 @@ QImage imageFromBuffer(rfb::PixelBuffer& buffer) {
   return image;
 }
 
+qreal deviceRatio() {
+  return xnutil::deviceScalePercent() / 100.0;
+}
+
+Size toDevicePixels(Size size) {
+  const qreal ratio = deviceRatio();
+  return {static_cast<int>(std::lround(size.width * ratio)),
+          static_cast<int>(std::lround(size.height * ratio))};
+}
+
 QPixmap namedPixmap(const char* name, Size size) {
-  return QPixmap::fromImage(imageFromBuffer(*ui::getNamedImage(name, size)));
+  QPixmap pixmap =
+      QPixmap::fromImage(imageFromBuffer(*ui::getNamedImage(name, toDevicePixels(size))));
+  pixmap.setDevicePixelRatio(deviceRatio());
+  return pixmap;
+}
+
+QSize layoutSize(const QImage& image) {
+  return image.deviceIndependentSize().toSize();
+}
+
+QSize layoutSize(const QPixmap& pixmap) {
+  return pixmap.deviceIndependentSize().toSize();
 }
 
 } // namespace mui

@@ -2,6 +2,8 @@
 // coloured one a band of its thickness in the text colour; a named image is
 // painted from the cached pixels, without a copy, in the middle of its area.
 #include "QtForm.h"
+#include "mui/qt/PixelImageQt.h"
+#include "xnutil/DisplayScale.h"
 
 #include "mui/MuImage.h"
 #include "mui/MuLine.h"
@@ -55,6 +57,21 @@ TEST_F(LineImageQt, ANamedImageIsPaintedFromTheCachedPixelsInTheMiddle) {
   EXPECT_GT(painted, 16 * 16 / 4);
   for (int x = 0; x < 56; ++x)
     EXPECT_EQ(shown.pixelColor(x, 8), background) << x;
+}
+
+// Where the display doubles the layout's pixels, an image keeps its place in
+// the layout and is painted from pixels drawn for that density.
+TEST_F(LineImageQt, AtTwiceTheDevicePixelsImagesAreFinerNotLarger) {
+  MuImage* single = MuImage::create(dialog.get(), "single", "user", nullptr);
+  xnutil::setDeviceScalePercent(200);
+  MuImage* fine = MuImage::create(dialog.get(), "fine", "user", nullptr);
+  const QPixmap button = namedPixmap("user", {});
+  xnutil::setDeviceScalePercent(100);
+  EXPECT_EQ(fine->getImageSize(), single->getImageSize());
+  EXPECT_EQ(button.devicePixelRatio(), 2.0);
+  EXPECT_EQ(layoutSize(button),
+            QSize(single->getImageSize().width, single->getImageSize().height));
+  EXPECT_EQ(button.width(), 2 * single->getImageSize().width);
 }
 
 } // namespace
