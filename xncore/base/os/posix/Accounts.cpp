@@ -70,7 +70,8 @@ void enumerate(const char* function, Next next, Take take) {
     Walk() { Start(); }
     ~Walk() { End(); }
   } walk;
-  for (bool more = true; more;) {
+  bool more = true;
+  while (more) {
     callGrowing<Entry>(function, next, [&](const Entry* found) {
       more = found != nullptr;
       if (found)
