@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <limits>
 #include <memory>
 
 namespace mui {
@@ -61,6 +62,9 @@ MuEditQt::MuEditQt(MuContainer* parent, const char* name, const char* label, int
     if (type == Password)
       line->setEchoMode(QLineEdit::Password);
     line->setFrame(!(options & NoBorder));
+    // Qt cuts a line at 32767 characters unless told otherwise; a line may
+    // hold a long list.
+    line->setMaxLength(std::numeric_limits<int>::max());
     QObject::connect(line, &QLineEdit::textChanged, line, [this] { changedInWidget(); });
     control_ = line;
   }

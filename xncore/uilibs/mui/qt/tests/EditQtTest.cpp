@@ -60,6 +60,16 @@ TEST_F(EditsQt, TheFilterHoldsAgainstTypedAndPastedText) {
   EXPECT_THAT(log.take(), testing::ElementsAre("percent changed", "percent changed"));
 }
 
+TEST_F(EditsQt, ALineTakesAPastedTextOfAnyLength) {
+  auto* line = static_cast<MuEditQt*>(MuEdit::create(column, "line", nullptr));
+  dialog->relayout();
+  const std::string pasted(100000, 'x');
+  QGuiApplication::clipboard()->setText(QString::fromStdString(pasted));
+  line->setFocus();
+  QTest::keyClick(line->lineEdit(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(text(line), pasted);
+}
+
 TEST_F(EditsQt, ChangesThatPassTheKeysAreUndoneWhenRefused) {
   edit->setText("50");
   QGuiApplication::clipboard()->setText(QStringLiteral("0"));
