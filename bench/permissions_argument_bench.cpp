@@ -5,6 +5,7 @@
 // n log n: the time per kilobyte may creep up with the size, never in
 // proportion to it.
 
+#include "PermissionsTexts.h"
 #include "oxnpermissionscreator/CommandLine.h"
 
 #include "plat/Configuration.h"
@@ -14,24 +15,9 @@
 
 #include <benchmark/benchmark.h>
 
-#include <random>
 #include <string>
 
 namespace {
-
-// SID entries, in random order, until the text is `bytes` long or a little more.
-std::string permissionsText(std::size_t bytes) {
-  std::mt19937 random(11);
-  std::string text;
-  for (int i = 0; text.size() < bytes; ++i) {
-    if (i > 0)
-      text += ',';
-    if (random() % 4 == 0)
-      text += '%';
-    text += "S-1-5-21-" + std::to_string(random()) + "-" + std::to_string(i) + ":f!q";
-  }
-  return text;
-}
 
 void commandLineToRenderedParameter(benchmark::State& state) {
   std::string argument =
@@ -47,10 +33,7 @@ void commandLineToRenderedParameter(benchmark::State& state) {
     plat::String rendered = smisc::permissionsParameter.getValueString();
     benchmark::DoNotOptimize(rendered.get());
   }
-  state.SetComplexityN(state.range(0));
-  state.counters["per_KB"] = benchmark::Counter(static_cast<double>(state.range(0)) / 1024.0,
-                                                benchmark::Counter::kIsIterationInvariantRate |
-                                                    benchmark::Counter::kInvert);
+  reportPerKilobyte(state);
 }
 
 BENCHMARK(commandLineToRenderedParameter)

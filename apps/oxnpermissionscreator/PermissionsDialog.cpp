@@ -153,7 +153,7 @@ void PermissionsDialog::open() {
   dialog_->setVisible(true);
   // The system scheme is in force at the start, whatever the text says.
   schemeChoice_->setValue(systemSchemeId);
-  setScheme(ntLogonScheme_);
+  fillList([this] { setScheme(ntLogonScheme_); });
   showSettings();
   clearBoxes(false);
 }
@@ -166,8 +166,23 @@ void PermissionsDialog::insertEntry(int index, const char* text, const char* ima
   lastInserted_ = index;
   clearBoxes(true);
   PermissionsEditor::insertEntry(index, text, imageName);
+  // While a scheme fills the list, only the last selection can show, and
+  // each one would lay out the whole list again.
+  if (fillingList_)
+    insertedUnselected_ = true;
+  else
+    selectInserted();
+}
+
+void PermissionsDialog::selectInserted() {
+  insertedUnselected_ = false;
   scheme_->selectionChanged(lastInserted_);
   list_->setSelection(lastInserted_);
+}
+
+void PermissionsDialog::selectEntry(int index) {
+  insertedUnselected_ = false;
+  PermissionsEditor::selectEntry(index);
 }
 
 // The selection of the first row raises no event: the boxes stay disabled,
@@ -197,10 +212,10 @@ void PermissionsDialog::changed(mui::MuElement* source) {
   }
   // The new scheme reads the same parameter, in its own form; the edit box
   // keeps its text.
-  if (schemeChoice_->getValue() == cloudSsoSchemeId)
-    setScheme(cloudSsoScheme_);
-  else
-    setScheme(ntLogonScheme_);
+  sui::PermissionsScheme* scheme = schemeChoice_->getValue() == cloudSsoSchemeId
+                                       ? static_cast<sui::PermissionsScheme*>(cloudSsoScheme_)
+                                       : static_cast<sui::PermissionsScheme*>(ntLogonScheme_);
+  fillList([this, scheme] { setScheme(scheme); });
   showSettings();
   clearBoxes(false);
   relayoutMain();
@@ -224,7 +239,7 @@ void PermissionsDialog::applyText() {
   smisc::permissionsParameter.setFromString(permissionString_->getText().get(),
                                             plat::priorityPreference);
   list_->removeAll();
-  scheme_->activate();
+  fillList([this] { scheme_->activate(); });
   if (list_->rowCount() > 0) {
     selectEntry(lastInserted_);
     scheme_->selectionChanged(lastInserted_);
@@ -263,6 +278,27 @@ void PermissionsDialog::clearBoxes(bool keepHelp) {
   }
   if (!keepHelp)
     customHelp_->setVisible(false);
+  if (!fillingList_)
+    relayoutMain();
+}
+
+// A layout after each entry would make a long list quadratic; the result of
+// one at the end is the same.
+void PermissionsDialog::fillList(const std::function<void()>& fill) {
+  fillingList_ = true;
+  try {
+    fill();
+  } catch (...) {
+    finishFilling();
+    throw;
+  }
+  finishFilling();
+}
+
+void PermissionsDialog::finishFilling() {
+  fillingList_ = false;
+  if (insertedUnselected_)
+    selectInserted();
   relayoutMain();
 }
 

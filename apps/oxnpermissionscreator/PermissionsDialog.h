@@ -12,6 +12,7 @@
 #include "smisc/NameResolverSystemAuth.h"
 #include "sui/PermissionsEditor.h"
 
+#include <functional>
 #include <memory>
 
 namespace mui {
@@ -45,6 +46,7 @@ public:
   plat::Configuration* getConfiguration() override;
   /// Selects the new entry, with the boxes disabled until the user picks it.
   void insertEntry(int index, const char* text, const char* imageName) override;
+  void selectEntry(int index) override;
   /// Highlights the first row, if any, and leaves the boxes disabled until
   /// the user picks a row.
   void removeEntry(int index) override;
@@ -74,6 +76,12 @@ private:
   /// Disables every allow and deny box; hides the help unless `keepHelp`.
   void clearBoxes(bool keepHelp);
   void relayoutMain();
+  /// Runs `fill`, in which the scheme fills the list, and lays the form out
+  /// once at the end rather than after each entry.
+  void fillList(const std::function<void()>& fill);
+  void finishFilling();
+  /// Tells the scheme of the inserted entry and selects its row.
+  void selectInserted();
 
   std::unique_ptr<mui::MuDialog> dialog_;
   std::unique_ptr<mui::MuAboutDialog> aboutDialog_;
@@ -90,6 +98,10 @@ private:
   smisc::NameResolverSystemAuth nameResolver_;
   /// The entry most recently inserted.
   int lastInserted_ = 0;
+  bool fillingList_ = false;
+  /// An entry was inserted while the list was being filled, and nothing was
+  /// selected after it.
+  bool insertedUnselected_ = false;
 };
 
 } // namespace app
