@@ -74,11 +74,7 @@ class Desktop:
             raise Failure("Xvfb did not start")
         self.display_name = f":{number}"
         self.x = xdisplay.Display(self.display_name)
-        # Qt takes the density from the X resources, as under a desktop.
-        self.x.screen().root.change_property(self.x.intern_atom("RESOURCE_MANAGER"),
-                                             Xatom.STRING, 8,
-                                             f"Xft.dpi:\t{self.dpi}\n".encode())
-        self.x.sync()
+        self.set_density(self.dpi)
         if not self.accessibility:
             return
         self._spawn(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"],
@@ -87,6 +83,14 @@ class Desktop:
         # it is loaded only now that the bus is there.
         import pyatspi
         self.atspi = pyatspi
+
+    def set_density(self, dpi):
+        """The density that programs started from now on find, as a desktop
+        announces it: in the X resources, where Qt reads it."""
+        self.dpi = dpi
+        self.x.screen().root.change_property(self.x.intern_atom("RESOURCE_MANAGER"),
+                                             Xatom.STRING, 8, f"Xft.dpi:\t{dpi}\n".encode())
+        self.x.sync()
 
     def environment(self):
         env = {key: value for key, value in os.environ.items()

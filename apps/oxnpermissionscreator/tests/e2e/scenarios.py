@@ -8,17 +8,23 @@ which it keeps in ARTIFACTS_DIR.
 """
 
 import os
+import shutil
 import sys
 import time
 
 from desktop import Desktop, Failure, wait_for
 
 SCENARIOS = {}
+# Room for the window at twice the usual density.
+LARGE_SCREEN = (2560, 2048)
 
 
-def scenario(function):
-    SCENARIOS[function.__name__] = function
-    return function
+def scenario(function=None, screen=(1280, 1024)):
+    def register(function):
+        function.screen = screen
+        SCENARIOS[function.__name__] = function
+        return function
+    return register(function) if function else register
 
 
 def expect(condition, message):
@@ -184,18 +190,104 @@ def the_cloud_scheme_reads_the_text_in_its_own_form(desktop, run, artifacts):
     close_and_expect_zero(program, window)
 
 
+# The elements whose places make the dialog's layout.
+MAIN_ELEMENTS = ["schemeChoice", "split.list", "split.buttons.add", "split.buttons.remove",
+                 "settings", "permcustom.s.allow.check", "permcustom.q.name", "tl.downarrow",
+                 "tl.refreshtext", "tl.refreshui", "tl.uparrow", "main.label",
+                 "permissionstring", "aboutLink"]
+
+
+def laid_out(desktop, run, dpi, artifacts):
+    """The main elements' rectangles inside the window at `dpi`, with
+    screenshots of every window of the program."""
+    desktop.set_density(dpi)
+    program = run("-Permissions=S-1-5-32-544:f,%S-1-5-32-545:d")
+    window = program.window(title=TITLE)
+    origin = program.extents(program.element("s1"))
+    rectangles = {}
+    for path in MAIN_ELEMENTS:
+        x, y, width, height = program.extents(program.element(path))
+        rectangles[path] = (x - origin[0], y - origin[1], width, height)
+    rectangles["window"] = (0, 0, origin[2], origin[3])
+    desktop.screenshot(os.path.join(artifacts, f"main-{dpi}.png"), window)
+    program.click(program.element("aboutLink"))
+    show_and_dismiss(desktop, program, f"{TITLE} - About",
+                     os.path.join(artifacts, f"about-{dpi}.png"))
+    add_dialog_screenshots(desktop, program, f"{dpi}", artifacts)
+    close_and_expect_zero(program, window)
+    return rectangles
+
+
+def show_and_dismiss(desktop, program, title, path):
+    """Waits for the window of `title`, keeps a screenshot in `path` and
+    dismisses it with Escape."""
+    window = program.window(title=title)
+    desktop.screenshot(path, window)
+    desktop.key("Escape")
+    wait_for(f"{title} to close", lambda: window not in desktop.windows())
+
+
+def add_dialog_screenshots(desktop, program, suffix, artifacts):
+    """The add dialogs of both schemes and the main window under the second."""
+    def shot(name):
+        return os.path.join(artifacts, f"{name}-{suffix}.png")
+    program.click(program.element("split.buttons.add"))
+    picker = program.window(title="Select users or groups")
+    desktop.screenshot(shot("picker"), picker)
+    program.click(program.element("typed"))
+    show_and_dismiss(desktop, program, "Add user or group", shot("typed-add"))
+    program.click(program.choice("schemeChoice"))
+    desktop.key("Down", "Return")
+    wait_for("the cloud scheme", lambda: program.choice("schemeChoice").name.startswith("Single"))
+    desktop.screenshot(shot("main-cloud"), program.window(title=TITLE))
+    program.click(program.element("split.buttons.add"))
+    show_and_dismiss(desktop, program, "Add IdP group", shot("cloud-add"))
+
+
+def inside(inner, outer):
+    return (inner[0] >= outer[0] and inner[1] >= outer[1]
+            and inner[0] + inner[2] <= outer[0] + outer[2]
+            and inner[1] + inner[3] <= outer[1] + outer[3])
+
+
+@scenario(screen=LARGE_SCREEN)
+def the_layout_at_twice_the_density_is_the_same_at_twice_the_size(desktop, run, artifacts):
+    normal = laid_out(desktop, run, 96, artifacts)
+    double = laid_out(desktop, run, 192, artifacts)
+    unscaled = []
+    for path, rectangle in normal.items():
+        expected = [2 * value for value in rectangle]
+        # Text is measured by the font at each size, and rounds its own way.
+        slack = [3 + abs(value) // 25 for value in expected]
+        if path == "schemeChoice":
+            # A closed drop-down is as high as the theme makes it, which
+            # doesn't grow in proportion.
+            slack[3] = expected[3]
+        if not all(abs(a - b) <= s for a, b, s in zip(double[path], expected, slack)):
+            unscaled.append(f"{path} at 192 dpi: {double[path]}, at 96 dpi: {rectangle}")
+    expect(not unscaled, "\n".join(unscaled))
+    for rectangles in (normal, double):
+        expect_equal(rectangles["tl.refreshtext"][2], rectangles["tl.refreshui"][2],
+                     "widths of the two refresh buttons")
+        for path in MAIN_ELEMENTS:
+            expect(inside(rectangles[path], rectangles["window"]),
+                   f"{path} {rectangles[path]} inside the window {rectangles['window']}")
+
+
 def main():
     name, program_path, artifacts = sys.argv[1:4]
     if name not in SCENARIOS:
         sys.exit(f"unknown scenario {name}; known: {', '.join(sorted(SCENARIOS))}")
+    artifacts = os.path.join(artifacts, name)
+    shutil.rmtree(artifacts, ignore_errors=True)
     started = time.monotonic()
-    with Desktop() as desktop:
+    with Desktop(size=SCENARIOS[name].screen) as desktop:
         def run(*arguments, env=None):
             return desktop.launch(program_path, *arguments, env=env)
         try:
-            SCENARIOS[name](desktop, run, os.path.join(artifacts, name))
+            SCENARIOS[name](desktop, run, artifacts)
         except Failure as failure:
-            desktop.screenshot(os.path.join(artifacts, name, "failure.png"))
+            desktop.screenshot(os.path.join(artifacts, "failure.png"))
             sys.exit(f"{name}: {failure}")
     print(f"{name}: passed in {time.monotonic() - started:.1f} s")
 
