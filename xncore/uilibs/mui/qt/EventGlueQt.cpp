@@ -1,11 +1,14 @@
 #include "mui/qt/EventGlueQt.h"
 
+#include "loc/Localize.h"
 #include "os/AppInfo.h"
 #include "plat/Exception.h"
 #include "plat/LogSrc.h"
+#include "ui/TextKeys.h"
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace mui {
 
@@ -20,6 +23,11 @@ void showFailure(const plat::Exception& failure) {
     title = QApplication::applicationDisplayName();
   QMessageBox box(QMessageBox::Warning, title, QString::fromUtf8(failure.what()), QMessageBox::Ok,
                   QApplication::activeWindow());
+  // The button speaks the program's language, like the toolkit's own, which
+  // show no icon either.
+  QAbstractButton* ok = box.button(QMessageBox::Ok);
+  ok->setText(QString::fromUtf8(XN_TEXT(textkey::ui_button_ok)));
+  ok->setIcon(QIcon());
   box.exec();
 }
 

@@ -3,6 +3,8 @@
 // dialogs' keys and close box, and the glue that keeps exceptions out of Qt.
 #include "QtForm.h"
 
+#include "loc/LocaleParameter.h"
+#include "loc/Localize.h"
 #include "mui/MuSpacer.h"
 #include "mui/headless/MuiHeadless.h"
 #include "mui/qt/EventGlueQt.h"
@@ -11,6 +13,7 @@
 #include <gmock/gmock.h>
 
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <string>
@@ -249,16 +252,23 @@ TEST_F(QtBinding, FailuresInObserversNeverPassThroughQt) {
   dialog->setVisible(true);
 
   // A refused operation is shown in a message box, and the program goes on.
+  // Its button speaks the program's language.
+  loc::Localize::instance().init({});
+  loc::localeParameter.setFromString("zh_CN", 10);
   clicks.onClick = [] { throw plat::Exception("No such user"); };
   QString shown;
+  QString button;
   QTimer::singleShot(0, [&] {
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
       shown = box->text();
+      button = box->button(QMessageBox::Ok)->text();
       box->accept();
     }
   });
   QTest::keyClick(window(), Qt::Key_Return);
+  loc::localeParameter.reset(true);
   EXPECT_EQ(shown, "No such user");
+  EXPECT_EQ(button, QString::fromUtf8("确定"));
   EXPECT_NO_THROW(rethrowFromQt());
 
   // Anything else leaves Qt's frames and is thrown where the loop takes over.
