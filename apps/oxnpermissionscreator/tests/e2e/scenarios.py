@@ -176,7 +176,7 @@ def an_edited_text_reaches_the_list(desktop, run, artifacts):
 
 
 @scenario
-def the_cloud_scheme_reads_the_text_in_its_own_form(desktop, run, artifacts):
+def the_cloud_scheme_reads_the_text_in_its_own_form_and_reports_a_bad_one(desktop, run, artifacts):
     text = "11111111-2222-3333-4444-555555555555:Sales:d"
     program = run(f"-Permissions={text}")
     window = program.window(title=TITLE)
@@ -187,6 +187,17 @@ def the_cloud_scheme_reads_the_text_in_its_own_form(desktop, run, artifacts):
     wait_for_rows(program, ["Sales"])
     desktop.screenshot(os.path.join(artifacts, "cloud.png"), window)
     expect_equal(program.text(program.edit("permissionstring")), text, "the box keeps its text")
+    # A text this scheme can't read is reported in a message box, and the
+    # program goes on.
+    edit = program.edit("permissionstring")
+    program.click(edit)
+    desktop.key("End")
+    desktop.type("?")
+    desktop.key("Return")
+    report = wait_for("the message box", lambda: [w for w in desktop.windows() if w != window])[0]
+    desktop.screenshot(os.path.join(artifacts, "bad-text.png"), report)
+    desktop.key("Return")
+    wait_for("the message box to close", lambda: report not in desktop.windows())
     close_and_expect_zero(program, window)
 
 
