@@ -30,3 +30,13 @@ inline void reportPerKilobyte(benchmark::State& state) {
                                                 benchmark::Counter::kIsIterationInvariantRate |
                                                     benchmark::Counter::kInvert);
 }
+
+/// Texts of 10 KB, 100 KB and 1 MB, timed in milliseconds, the growth fitted
+/// to a line.
+inline void longTextSizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(10 * 1024)
+      ->Arg(100 * 1024)
+      ->Arg(1024 * 1024)
+      ->Unit(benchmark::kMillisecond)
+      ->Complexity(benchmark::oN);
+}

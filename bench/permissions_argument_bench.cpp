@@ -36,11 +36,6 @@ void commandLineToRenderedParameter(benchmark::State& state) {
   reportPerKilobyte(state);
 }
 
-BENCHMARK(commandLineToRenderedParameter)
-    ->Arg(10 * 1024)
-    ->Arg(100 * 1024)
-    ->Arg(1024 * 1024)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity(benchmark::oN);
+BENCHMARK(commandLineToRenderedParameter)->Apply(longTextSizes);
 
 } // namespace

@@ -48,12 +48,7 @@ void editBoxToListAndBack(benchmark::State& state) {
   reportPerKilobyte(state);
 }
 
-BENCHMARK(editBoxToListAndBack)
-    ->Arg(10 * 1024)
-    ->Arg(100 * 1024)
-    ->Arg(1024 * 1024)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity(benchmark::oN);
+BENCHMARK(editBoxToListAndBack)->Apply(longTextSizes);
 
 } // namespace
 
