@@ -236,7 +236,7 @@ class Program:
             return None
         return wait_for("the program on the accessibility bus", find, timeout)
 
-    def element(self, path, root=None, timeout=10.0):
+    def element(self, path, timeout=10.0):
         """The accessible object of the element whose dotted path is or ends
         in `path`, once it shows."""
         def matches(node):
@@ -244,8 +244,7 @@ class Program:
             return ((description == path or description.endswith("." + path))
                     and self.is_showing(node))
         return wait_for(f"element {path}",
-                        lambda: self.atspi.findDescendant(root or self.application(), matches),
-                        timeout)
+                        lambda: self.atspi.findDescendant(self.application(), matches), timeout)
 
     def edit(self, path):
         """The text field of the edit at `path`, which stands beside its caption."""
@@ -269,9 +268,6 @@ class Program:
         return wait_for(f"row {text} of {path}", lambda: self.atspi.findDescendant(
             self.element(path), lambda node: node.getRole() == self.atspi.ROLE_TABLE_CELL
             and node.name == text))
-
-    def elements(self, predicate, root=None):
-        return self.atspi.findAllDescendants(root or self.application(), predicate)
 
     def is_enabled(self, node):
         return node.getState().contains(self.atspi.STATE_ENABLED)

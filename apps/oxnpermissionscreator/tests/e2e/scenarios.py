@@ -73,7 +73,7 @@ def about_link_shows_the_box_and_closing_it_leaves_the_program_running(desktop, 
     main_window = program.window(title=TITLE)
     program.click(program.element("aboutLink"))
     about = program.window(title=f"{TITLE} - About")
-    text = program.element("text", root=None)
+    text = program.element("text")
     desktop.screenshot(os.path.join(artifacts, "about.png"), about)
     expect(program.extents(text)[2] > 0, "the About box shows its text")
     desktop.key("Escape")
