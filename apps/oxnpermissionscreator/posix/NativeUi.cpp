@@ -35,7 +35,11 @@ public:
   void installToolkit() override {
     root_.emplace();
     mui::installQtBinding(*root_);
-    QApplication::setWindowIcon(QIcon(mui::namedPixmap(os::getApp(false), {})));
+    // The icon's small drawings: the picture's own size would be decoded for nothing.
+    QIcon icon;
+    for (int side : {16, 32, 48})
+      icon.addPixmap(mui::namedPixmap(os::getApp(false), {side, side}));
+    QApplication::setWindowIcon(icon);
   }
 
 private:
