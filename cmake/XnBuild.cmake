@@ -99,6 +99,11 @@ function(xn_fuzzer name)
   target_link_libraries(fuzz_${name} PRIVATE ${ARG_DEPS} xn_options)
   target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
   xn_executable(fuzz_${name})
+  # The fuzz build makes only what the fuzzers need.
+  if(NOT TARGET fuzzers)
+    add_custom_target(fuzzers)
+  endif()
+  add_dependencies(fuzzers fuzz_${name})
 endfunction()
 
 # xn_catalog(<target> [NAME <catalog>] [PO_DIR <dir>] [KEYS_ONLY | TABLE_ONLY])
