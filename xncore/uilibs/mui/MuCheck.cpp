@@ -16,7 +16,7 @@ MuCheckFactory muCheckFactory = nullptr;
 
 namespace {
 
-// The box and its gap to the label, in units.
+// The side of the box, in units; half a "0" separates it from the label.
 constexpr int boxUnits = 26;
 constexpr int imageGapUnits = 6;
 
@@ -94,7 +94,16 @@ Size MuCheck::boxSize() {
           std::max(Mui::toPixels(boxUnits), native.height)};
 }
 
+int MuCheck::markWidth() {
+  if (!imageBase_.isNull())
+    return imageSize().width;
+  return std::max(Mui::toPixels(boxUnits), nativeMarkWidth());
+}
+
 int MuCheck::minWidth(int height) {
+  const char* text = label();
+  if (!text || !*text)
+    return markWidth();
   return MuElement::minWidth(height) + boxSize().width;
 }
 

@@ -68,6 +68,9 @@ public:
   plat::String imageName(int state) const;
   /// The width of the box with its gap to the label, and the box's height.
   Size boxSize();
+  /// The width of the box alone, which is all that a check without a label
+  /// measures: a column of such checks centres their boxes.
+  int markWidth();
 
   ~MuCheck() override;
 
@@ -82,6 +85,8 @@ protected:
   /// Binding: the room that the platform's own box and its gap to the label
   /// take, which the house measure must not fall short of.
   virtual Size nativeBoxSize() { return {}; }
+  /// Binding: the width of the platform's own box without its gap.
+  virtual int nativeMarkWidth() { return 0; }
   /// Binding: the user clicked the check, or pressed its key: an unset box
   /// becomes set, a set or indeterminate one unset, then EventChanged.
   void clickedByUser();

@@ -1,10 +1,9 @@
 #include "mui/qt/CheckWidgetQt.h"
 
-#include "mui/qt/PixelImageQt.h"
-
 #include "mui/Mui.h"
 #include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuCommonQt.h"
+#include "mui/qt/PixelImageQt.h"
 
 #include <QKeyEvent>
 #include <QStyleOptionButton>
@@ -47,26 +46,32 @@ void CheckWidgetQt<Base>::paintEvent(QPaintEvent*) {
   QStyleOptionButton option;
   this->initStyleOption(&option);
   const QPixmap image = check_->stateImage();
+  QRect box;
   if (!image.isNull()) {
-    painter.drawPixmap(0, (this->height() - layoutSize(image).height()) / 2, image);
+    const QSize size = layoutSize(image);
+    box = QRect(QPoint(0, (this->height() - size.height()) / 2), size);
+    painter.drawPixmap(box.topLeft(), image);
   } else {
-    QStyleOptionButton box = option;
-    box.rect = this->style()->subElementRect(
+    QStyleOptionButton indicator = option;
+    indicator.rect = this->style()->subElementRect(
         radio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, this);
     painter.drawPrimitive(radio ? QStyle::PE_IndicatorRadioButton : QStyle::PE_IndicatorCheckBox,
-                          box);
+                          indicator);
+    box = indicator.rect;
   }
   const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextWordWrap;
   const QRect area = this->rect().adjusted(check_->boxSize().width, 0, 0, 0);
   this->style()->drawItemText(&painter, area, flags, option.palette, this->isEnabled(),
                               this->text(), QPalette::WindowText);
   if (this->hasFocus()) {
+    // The focus ring goes round the label, or round the box when there is none.
     QStyleOptionFocusRect focus;
     focus.initFrom(this);
-    focus.rect = painter.fontMetrics()
-                     .boundingRect(area, flags, this->text())
-                     .adjusted(-1, 0, 1, 0)
-                     .intersected(this->rect());
+    focus.rect = this->text().isEmpty() ? box
+                                        : painter.fontMetrics()
+                                              .boundingRect(area, flags, this->text())
+                                              .adjusted(-1, 0, 1, 0)
+                                              .intersected(this->rect());
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
   }
 }

@@ -96,19 +96,26 @@ Size MuCheckQt::imageSize() {
   return {size.width(), size.height()};
 }
 
-// The style puts the label where its contents begin; the box is as high as
-// its indicator.
-Size MuCheckQt::nativeBoxSize() {
+QRect MuCheckQt::styleRect(bool contents) {
   const bool radio = checkType() == Radio;
   QStyleOptionButton option;
   option.initFrom(widget());
   option.rect = QRect(0, 0, 1000, 1000);
-  const QStyle* style = widget()->style();
-  const QRect contents = style->subElementRect(
-      radio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents, &option, widget());
-  const QRect indicator = style->subElementRect(
-      radio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, widget());
-  return {contents.left(), indicator.height()};
+  const QStyle::SubElement element =
+      contents ? (radio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents)
+               : (radio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator);
+  return widget()->style()->subElementRect(element, &option, widget());
+}
+
+// The style puts the label where its contents begin; the box is as high as
+// its indicator.
+Size MuCheckQt::nativeBoxSize() {
+  return {styleRect(true).left(), styleRect(false).height()};
+}
+
+int MuCheckQt::nativeMarkWidth() {
+  const QRect indicator = styleRect(false);
+  return indicator.left() + indicator.width();
 }
 
 } // namespace mui

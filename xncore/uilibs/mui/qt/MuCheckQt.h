@@ -34,6 +34,7 @@ protected:
   int zeroWidth() override;
   Size imageSize() override;
   Size nativeBoxSize() override;
+  int nativeMarkWidth() override;
 
 private:
   MuCheckQt(MuContainer* parent, const char* name, const char* label, int type, MuCheck* groupPeer,
@@ -41,6 +42,9 @@ private:
 
   /// A radio button has no third state of its own; it shows as unset.
   bool radioIndeterminate_ = false;
+  /// Where the style puts the label (contents) or the box, in a large button.
+  QRect styleRect(bool contents);
+
   /// The unset, set and indeterminate images, when the check has them.
   QPixmap images_[3];
 };

@@ -28,8 +28,9 @@ TEST_F(Checks, TheBoxStandsBesideTheLabel) {
   EXPECT_EQ(check->minHeight(INT_MAX), 16);
   // The label wraps in what the box leaves: seven code points at 16 + 49.
   EXPECT_EQ(check->minHeight(16 + 49), 32);
+  // Without a label there is no gap: a column can centre the box.
   check->setLabel("");
-  EXPECT_EQ(check->minWidth(0), 16);
+  EXPECT_EQ(check->minWidth(0), 13);
   MuStyle bold;
   bold.fontWeight = 700;
   check->setStyle(bold);
@@ -47,6 +48,8 @@ TEST_F(Checks, StateImagesReplaceTheBox) {
   EXPECT_EQ(check->minHeight(INT_MAX), 26);
   EXPECT_EQ(plain->minWidth(0), 28 + 26 + 3);
   EXPECT_EQ(plain->minHeight(INT_MAX), 26);
+  check->setLabel("");
+  EXPECT_EQ(check->minWidth(0), 26);
   EXPECT_EQ(check->imageName(check->state()), plat::String("off-check"));
   check->setIndeterminate();
   EXPECT_EQ(check->imageName(check->state()), plat::String("ind-check"));
