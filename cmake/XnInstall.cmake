@@ -54,6 +54,8 @@ form, and reads such a text back into the form.")
   set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
   set(CPACK_DEBIAN_PACKAGE_SECTION net)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+  # Qt's own texts (the standard buttons of its message boxes) in the user's language.
+  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
   set(CPACK_STRIP_FILES ON)
   include(CPack)
 endfunction()
