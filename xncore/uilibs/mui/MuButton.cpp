@@ -82,16 +82,27 @@ int MuButton::minWidth(int height) {
   if (showsShield())
     w += Mui::toPixels(shieldUnits);
   if (options_ & DropDown)
-    w += Mui::toPixels(dropDownUnits);
+    w += dropDownWidth();
   if (const Size image = imageSize(); hasArea(image)) {
     w += image.width;
     if (hasLabel() || !isFlat())
-      w += Mui::toPixels(imageGapUnits);
+      w += imageGap();
   }
   if (buttonType_ != Normal || isFlat() || !hasLabel())
     return w;
-  const int padding = std::max(Mui::toPixels(paddingUnits), nativeFramePadding().width);
-  return std::max(w + padding, Mui::metric(MetricButtonWidth));
+  return std::max(w + labelPadding(), Mui::metric(MetricButtonWidth));
+}
+
+int MuButton::imageGap() {
+  return Mui::toPixels(imageGapUnits);
+}
+
+int MuButton::dropDownWidth() {
+  return Mui::toPixels(dropDownUnits);
+}
+
+int MuButton::labelPadding() {
+  return std::max(Mui::toPixels(paddingUnits), nativeFramePadding().width);
 }
 
 int MuButton::minHeight(int width) {

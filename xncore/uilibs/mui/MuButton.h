@@ -68,6 +68,12 @@ public:
   const int* textMargins() const noexcept { return textMargins_; }
   const char* imageName() const noexcept { return imageName_.get(); }
   bool hasLabel() const noexcept { return label() && *label(); }
+  /// Pixels between an image and its label.
+  static int imageGap();
+  /// Pixels of the column that a drop-down button's arrow takes.
+  static int dropDownWidth();
+  /// Pixels that a framed button keeps round its label, both sides together.
+  int labelPadding();
 
 protected:
   MuButton(MuContainer* parent, const char* name, const char* label, int type, int options,

@@ -1,9 +1,7 @@
 #include "mui/qt/ButtonWidgetQt.h"
 
-#include "mui/qt/PixelImageQt.h"
-
-#include "mui/Mui.h"
 #include "mui/qt/MuButtonQt.h"
+#include "mui/qt/PixelImageQt.h"
 
 #include <QKeyEvent>
 #include <QStyleOptionButton>
@@ -14,9 +12,6 @@ namespace mui {
 
 namespace {
 
-// Units between an image and its label, and of the drop-down arrow's column.
-constexpr int imageGapUnits = 8;
-constexpr int dropDownUnits = 40;
 // Pixels of the arrow drawn in the middle of its column.
 constexpr int arrowSide = 9;
 
@@ -82,6 +77,13 @@ void ButtonWidgetQt::paintEvent(QPaintEvent*) {
   if (framed) {
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
     area = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    // A label set to one side keeps the padding of the measure from the
+    // frame, as a centred one does at the button's narrowest.
+    if (button_->textAlign() != MuButton::AlignCentre) {
+      const int inset = button_->labelPadding() / 2;
+      area.setLeft(std::max(area.left(), inset));
+      area.setRight(std::min(area.right(), width() - 1 - inset));
+    }
   }
   paintContent(painter, area);
   // The style's mark inside a frame; around the content without one.
@@ -106,7 +108,7 @@ void ButtonWidgetQt::paintContent(QPainter& painter, QRect area) {
     const int* margins = button_->textMargins();
     area = rect().adjusted(margins[0], margins[1], -margins[2], -margins[3]);
   } else if (button_->options() & MuButton::DropDown) {
-    const int column = Mui::toPixels(dropDownUnits);
+    const int column = MuButton::dropDownWidth();
     QStyleOption arrow;
     arrow.initFrom(this);
     arrow.rect = QRect(area.right() + 1 - (column + arrowSide) / 2,
@@ -141,7 +143,7 @@ void ButtonWidgetQt::paintContent(QPainter& painter, QRect area) {
   // The image leads the label; the two stand aligned as one block. The label
   // gets all the room to its right: a rectangle cut to its measured width
   // could break its last word for a fraction of a pixel.
-  const int gap = imageSize.width() + Mui::toPixels(imageGapUnits);
+  const int gap = imageSize.width() + MuButton::imageGap();
   const int room = std::max(0, area.width() - gap);
   const int textWidth = std::min(
       room,

@@ -53,6 +53,10 @@ MuEditQt::MuEditQt(MuContainer* parent, const char* name, const char* label, int
     auto* box = new TextEditQt(this, peer->widget());
     // Tab moves on through the dialog, as in the platform's dialogs.
     box->setTabChangesFocus(true);
+    // Lines wrap at the box's width and the form makes room for all of them,
+    // so the box has no scroll bars; the caret scrolls it if need be.
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     if (options & NoBorder)
       box->setFrameShape(QFrame::NoFrame);
     QObject::connect(box, &QPlainTextEdit::textChanged, box, [this] { changedInWidget(); });
