@@ -55,7 +55,11 @@ public:
       length_ = length;
       return;
     }
-    T* block = length > 0 ? new T[static_cast<std::size_t>(length)]() : nullptr;
+    if (length <= 0) {
+      release();
+      return;
+    }
+    T* block = new T[static_cast<std::size_t>(length)]();
     std::copy(data_, data_ + std::min(length, length_), block);
     release();
     data_ = block;

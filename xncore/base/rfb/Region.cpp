@@ -112,8 +112,8 @@ Region::Data* Region::allocate(std::int32_t count) {
 }
 
 void Region::release(Data* data) noexcept {
-  // The shared empty block has no capacity and is never freed.
-  if (data && data->size != 0)
+  // The shared empty block is never freed.
+  if (data && data != &emptyData_)
     std::free(data);
 }
 
