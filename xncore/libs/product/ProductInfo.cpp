@@ -45,7 +45,17 @@ public:
     // may end in one.
     collapseDoubleBlanks(version);
 
-    plat::String address = documentationAddress();
+    // The documentation's version is taken once, from the first build
+    // version there is, and kept.
+    plat::String address;
+    {
+      std::lock_guard<std::mutex> hold(lock_);
+      if (docVersion_.isNull() && productBuildVersion()) {
+        const char* build = productBuildVersion();
+        docVersion_ = plat::strDup(build, static_cast<int>(std::strcspn(build, ".")));
+      }
+      address = addressOf(docVersion_.get());
+    }
     plat::DString about;
     for (const char* key :
          {textkey::product_copyright, textkey::product_trademarks, textkey::product_patents}) {
@@ -83,12 +93,23 @@ public:
     return plat::String((this->*text).get());
   }
 
+  plat::String address() const {
+    std::lock_guard<std::mutex> hold(lock_);
+    return addressOf(docVersion_.get());
+  }
+
   plat::DString versionLine_;
   plat::DString aboutText_;
   plat::DString osLine_;
   plat::DString fullInfo_;
 
 private:
+  static plat::String addressOf(const char* docVersion) {
+    return plat::strFormat("%s/docs/%s/foss.html", makerWebAddress, docVersion ? docVersion : "");
+  }
+
+  /// The version part of the documentation's address.
+  plat::String docVersion_;
   mutable std::mutex lock_;
 };
 
@@ -127,10 +148,8 @@ plat::String fullInfo() {
 }
 
 plat::String documentationAddress() {
-  // The documentation is kept per major version.
-  const char* build = productBuildVersion() ? productBuildVersion() : "";
-  plat::String major = plat::strDup(build, static_cast<int>(std::strcspn(build, ".")));
-  return plat::strFormat("%s/docs/%s/foss.html", makerWebAddress, major.get());
+  startProductTexts();
+  return updater()->address();
 }
 
 } // namespace product

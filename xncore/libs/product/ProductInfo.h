@@ -27,7 +27,8 @@ plat::String osLine();
 /// documentation's address and the "OS:" line, as plain text with the marks
 /// ®, © and ™ spelled out, wrapped at 79 columns.
 plat::String fullInfo();
-/// "<maker's web address>/docs/<major version>/foss.html".
+/// "<maker's web address>/docs/<major version>/foss.html", of the build
+/// version in force when the texts were first built.
 plat::String documentationAddress();
 
 } // namespace product

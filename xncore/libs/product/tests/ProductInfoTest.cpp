@@ -66,11 +66,13 @@ TEST_F(ProductInfo, VersionLineNamesTheProductInTheLanguageInForce) {
   EXPECT_THAT(product::versionLine().get(), StartsWith("Tool Maker 0.1 x64 ("));
 }
 
-TEST_F(ProductInfo, DocumentationAddressFollowsTheMajorVersion) {
+TEST_F(ProductInfo, DocumentationAddressKeepsTheMajorVersionOfTheFirstBuild) {
   EXPECT_STREQ(product::documentationAddress().get(), address);
   product::setProductVersion("12.0", "12.0.1.5");
-  EXPECT_STREQ(product::documentationAddress().get(),
-               "https://www.ostrand.example/docs/12/foss.html");
+  useLocale("de_DE");
+  EXPECT_STREQ(product::documentationAddress().get(), address);
+  EXPECT_THAT(product::fullInfo().get(), HasSubstr(address));
+  EXPECT_THAT(product::versionLine().get(), HasSubstr(" 12.0 x64 "));
 }
 
 TEST_F(ProductInfo, AboutTextEscapesTheLegalLinesAndLinksTheDocumentation) {
