@@ -9,6 +9,7 @@
 
 #include "io/SocketManager.h"
 #include "mui/MuEdit.h"
+#include "mui/MuLayout.h"
 #include "mui/MuList.h"
 #include "mui/MuiParameters.h"
 #include "mui/headless/MuDialogHeadless.h"
@@ -21,6 +22,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -164,6 +166,38 @@ TEST_F(PermissionsDialogForm, AfterARemovalTheFirstRowIsHighlightedAndTheBoxesSt
   EXPECT_EQ(names(), "BUILTIN\\Administrators;BUILTIN\\Users;");
   EXPECT_EQ(list()->getSelection(), 0);
   EXPECT_FALSE(boxEnabled('s'));
+}
+
+TEST_F(PermissionsDialogForm, TheRowsUnderTheFormStretchTheirEndsAndShowBothButtonsEquallyWide) {
+  start("");
+  mui::MuElement* refreshText = at("tl.refreshtext");
+  mui::MuElement* refreshUi = at("tl.refreshui");
+  const int width = std::max(refreshText->minWidth(1), refreshUi->minWidth(1));
+  auto* tl = static_cast<mui::MuLayout*>(at("tl"));
+  auto* links = static_cast<mui::MuLayout*>(at("layout"));
+  const struct {
+    mui::MuLayout* layout;
+    mui::MuElement* child;
+    int mode;
+    int size;
+  } entries[] = {
+      {static_cast<mui::MuLayout*>(dialog->getDialog()->find("s1.f1.main")), at("split"), 2, 1},
+      {tl, tl->getChild(0), 2, 1},
+      {tl, refreshText, 1, width},
+      {tl, refreshUi, 1, width},
+      {tl, tl->getChild(tl->childCount() - 1), 2, 1},
+      {links, links->getChild(0), 2, 1},
+      // A natural entry's size is its measure, taken at each layout.
+      {links, at("layout.aboutLink"), 32, at("layout.aboutLink")->getSize().width}};
+  for (const auto& entry : entries) {
+    int mode = -1, size = -1;
+    const int row = static_cast<int>(&entry - entries);
+    ASSERT_TRUE(entry.layout->childLayout(entry.child, &mode, &size)) << row;
+    EXPECT_EQ(mode, entry.mode) << row;
+    EXPECT_EQ(size, entry.size) << row;
+  }
+  EXPECT_EQ(refreshText->getSize().width, width);
+  EXPECT_EQ(refreshUi->getSize().width, width);
 }
 
 TEST_F(PermissionsDialogForm, ClosingTheAboutBoxLeavesTheLoopAndClosingTheWindowEndsItWithZero) {
