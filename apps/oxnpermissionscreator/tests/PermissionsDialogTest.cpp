@@ -13,6 +13,7 @@
 #include "mui/MuList.h"
 #include "mui/MuiParameters.h"
 #include "mui/headless/MuDialogHeadless.h"
+#include "mui/headless/MuListHeadless.h"
 #include "mui/headless/MuiHeadless.h"
 #include "os/AppInfo.h"
 #include "os/AppLoop.h"
@@ -124,6 +125,13 @@ TEST_F(PermissionsDialogForm, ReturnInTheBoxAppliesTheTextAndElsewherePressesRef
   at("split.list")->setFocus();
   type("S-1-5-18:v");
   EXPECT_TRUE(pressReturn());
+  EXPECT_EQ(names(), "BUILTIN\\Administrators;");
+  EXPECT_EQ(box(), "S-1-5-32-544:d");
+
+  // On a selected row too: only a double-click activates one.
+  type("S-1-5-18:v");
+  pick(0);
+  static_cast<mui::MuListHeadless*>(list())->pressKey(returnKey);
   EXPECT_EQ(names(), "BUILTIN\\Administrators;");
   EXPECT_EQ(box(), "S-1-5-32-544:d");
 }

@@ -340,11 +340,9 @@ bool MuList::keyPressed(int keysym) {
   case KeyEnd:
     selectFrom(rowCount() - 1, -1);
     return true;
+  // The dialog's keys: Return presses its default button whatever the
+  // selection, as in any dialog; only a double-click activates a row.
   case KeyReturn:
-    if (selection_ < 0)
-      return false; // the dialog's default button
-    notify(this, EventActivated);
-    return true;
   case KeyTab:
   case KeyEscape:
     return false;
