@@ -9,8 +9,10 @@
 
 #include "io/SocketManager.h"
 #include "mui/MuEdit.h"
+#include "mui/MuFrame.h"
 #include "mui/MuLayout.h"
 #include "mui/MuList.h"
+#include "mui/Mui.h"
 #include "mui/MuiParameters.h"
 #include "mui/headless/MuDialogHeadless.h"
 #include "mui/headless/MuListHeadless.h"
@@ -176,7 +178,7 @@ TEST_F(PermissionsDialogForm, AfterARemovalTheFirstRowIsHighlightedAndTheBoxesSt
   EXPECT_FALSE(boxEnabled('s'));
 }
 
-TEST_F(PermissionsDialogForm, TheRowsUnderTheFormStretchTheirEndsAndShowBothButtonsEquallyWide) {
+TEST_F(PermissionsDialogForm, LaysOutTheFormToTheWindowsEdgesWithBothRefreshButtonsEquallyWide) {
   start("");
   mui::MuElement* refreshText = at("tl.refreshtext");
   mui::MuElement* refreshUi = at("tl.refreshui");
@@ -206,6 +208,11 @@ TEST_F(PermissionsDialogForm, TheRowsUnderTheFormStretchTheirEndsAndShowBothButt
   }
   EXPECT_EQ(refreshText->getSize().width, width);
   EXPECT_EQ(refreshUi->getSize().width, width);
+  // The scroll reaches the window's edges; the frame inside it keeps the margin.
+  const int margin = mui::Mui::metric(mui::MetricDialogMargin);
+  EXPECT_EQ(dialog->getDialog()->margin(), 0);
+  EXPECT_EQ(static_cast<mui::MuFrame*>(dialog->getDialog()->find("s1.f1"))->margin(),
+            (mui::Size{margin, margin}));
 }
 
 TEST_F(PermissionsDialogForm, ClosingTheAboutBoxLeavesTheLoopAndClosingTheWindowEndsItWithZero) {
