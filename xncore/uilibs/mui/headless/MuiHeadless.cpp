@@ -1,5 +1,6 @@
 #include "mui/headless/MuiHeadless.h"
 
+#include "mui/headless/MuAutoHiderHeadless.h"
 #include "mui/headless/MuButtonHeadless.h"
 #include "mui/headless/MuCheckHeadless.h"
 #include "mui/headless/MuChoiceHeadless.h"
@@ -28,6 +29,7 @@ MuiHeadless& MuiHeadless::instance() {
 
 void installHeadlessBinding(MuiHeadless& root) {
   Mui::setInstance(&root);
+  muAutoHiderFactory = &MuAutoHiderHeadless::make;
   muDialogFactory = &MuDialogHeadless::make;
   muLayoutFactory = &MuLayoutHeadless::make;
   muButtonFactory = &MuButtonHeadless::make;

@@ -1,7 +1,9 @@
 #include "mui/qt/MuiQt.h"
 
+#include "loc/Localize.h"
 #include "mui/DisplayDensity.h"
 #include "mui/MuiParameters.h"
+#include "mui/qt/MuAutoHiderQt.h"
 #include "mui/qt/MuButtonQt.h"
 #include "mui/qt/MuCheckQt.h"
 #include "mui/qt/MuChoiceQt.h"
@@ -23,11 +25,9 @@
 #include "plat/Assertion.h"
 #include "xnutil/DisplayScale.h"
 
-#include "loc/Localize.h"
-
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QFontInfo>
+#include <QLibraryInfo>
 #include <QPalette>
 #include <QScreen>
 #include <cstring>
@@ -163,6 +163,7 @@ void prepareQtApplication() {
 
 void installQtBinding(MuiQt& root) {
   Mui::setInstance(&root);
+  muAutoHiderFactory = &MuAutoHiderQt::make;
   muDialogFactory = &MuDialogQt::make;
   muLayoutFactory = &MuLayoutQt::make;
   muButtonFactory = &MuButtonQt::make;
