@@ -3,6 +3,7 @@
 #include "plat/Timer.h"
 
 #include "Capture.h"
+#include "ManualClock.h"
 
 #include "plat/TimerManager.h"
 
@@ -16,17 +17,9 @@
 namespace plat {
 namespace {
 
-Ticks fakeNow = 0;
-
-Ticks fakeClock(Ticks limit, bool* passed) {
-  if (passed)
-    *passed = limit >= 0 && fakeNow > limit;
-  return fakeNow;
-}
-
-void advanceMs(std::int64_t ms) {
-  fakeNow += ms * ticksPerMillisecond;
-}
+using plattest::advanceMs;
+using plattest::fakeClock;
+using plattest::fakeNow;
 
 // Each timer writes its name into the shared record when it fires.
 struct Named : Timer::Callback {

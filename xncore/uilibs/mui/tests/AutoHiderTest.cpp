@@ -1,6 +1,7 @@
 // The auto-hiding panel of the headless binding on a parent dialog: its
 // dialog, its place on the parent's edge, the rule of the pointer, the
 // delayed hide and the keyboard focus leaving a panel that slides away.
+#include "../../../base/plat/tests/ManualClock.h"
 #include "HeadlessForm.h"
 
 #include "mui/MuAutoHider.h"
@@ -14,14 +15,6 @@
 
 namespace mui::test {
 namespace {
-
-plat::Ticks fakeNow = 0;
-
-plat::Ticks fakeClock(plat::Ticks limit, bool* passed) {
-  if (passed)
-    *passed = limit >= 0 && fakeNow > limit;
-  return fakeNow;
-}
 
 // Each report as "sliding revealed".
 struct States : ui::AutoHider::Callback {
@@ -47,12 +40,12 @@ protected:
     HeadlessForm::TearDown();
   }
   void advance(int ms) {
-    fakeNow += ms * plat::ticksPerMillisecond;
+    plattest::advanceMs(ms);
     timers.process();
   }
   Point panelAt() { return panel->getWindow()->getRect().tl; }
 
-  plat::TimerManager timers{false, &fakeClock};
+  plat::TimerManager timers{false, &plattest::fakeClock};
   States states;
   std::unique_ptr<MuAutoHiderHeadless> panel;
 };

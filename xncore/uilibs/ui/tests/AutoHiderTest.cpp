@@ -4,6 +4,8 @@
 
 #include "ui/AutoHider.h"
 
+#include "../../../base/plat/tests/ManualClock.h"
+
 #include "plat/TimerManager.h"
 
 #include <gtest/gtest.h>
@@ -13,14 +15,6 @@
 
 namespace ui {
 namespace {
-
-plat::Ticks fakeNow = 0;
-
-plat::Ticks fakeClock(plat::Ticks limit, bool* passed) {
-  if (passed)
-    *passed = limit >= 0 && fakeNow > limit;
-  return fakeNow;
-}
 
 // A panel whose sizes the test sets; it keeps where it was put.
 class Panel : public AutoHider, public AutoHider::Widget {
@@ -52,14 +46,14 @@ using Seen = std::vector<std::string>;
 
 class AutoHiderTest : public testing::Test {
 protected:
-  void SetUp() override { fakeNow = 50 * plat::ticksPerSecond; }
+  void SetUp() override { plattest::fakeNow = 50 * plat::ticksPerSecond; }
   /// Moves the clock on by `ms` and fires what is due.
   void advance(int ms) {
-    fakeNow += ms * plat::ticksPerMillisecond;
+    plattest::advanceMs(ms);
     timers.process();
   }
 
-  plat::TimerManager timers{false, &fakeClock};
+  plat::TimerManager timers{false, &plattest::fakeClock};
   States states;
 };
 

@@ -1,6 +1,7 @@
 // The auto-hiding panel on Qt: a frameless child of its parent's window that
 // comes into view when the pointer moves over its strip and goes away when
 // the pointer moves on over the parent.
+#include "../../../../base/plat/tests/ManualClock.h"
 #include "QtForm.h"
 
 #include "mui/MuAutoHider.h"
@@ -13,17 +14,9 @@
 namespace mui::test {
 namespace {
 
-plat::Ticks fakeNow = 0;
-
-plat::Ticks fakeClock(plat::Ticks limit, bool* passed) {
-  if (passed)
-    *passed = limit >= 0 && fakeNow > limit;
-  return fakeNow;
-}
-
 TEST_F(QtForm, AnAutoHidingPanelComesIntoViewUnderThePointerAndGoesOverTheParent) {
   EXPECT_EQ(muAutoHiderFactory, &MuAutoHiderQt::make);
-  plat::TimerManager timers{true, &fakeClock};
+  plat::TimerManager timers{true, &plattest::fakeClock};
   dialog->setVisible(true);
   const Size size{100, 60};
   std::unique_ptr<MuAutoHiderQt> hider(static_cast<MuAutoHiderQt*>(
@@ -40,14 +33,14 @@ TEST_F(QtForm, AnAutoHidingPanelComesIntoViewUnderThePointerAndGoesOverTheParent
   QTest::mouseMove(window()->windowHandle(), QPoint(5, 150));
   QApplication::processEvents();
   EXPECT_TRUE(hider->hider()->isRevealed());
-  fakeNow += 300 * plat::ticksPerMillisecond;
+  plattest::advanceMs(300);
   timers.process();
   EXPECT_EQ(panel->pos(), QPoint(0, 120));
 
   QTest::mouseMove(window()->windowHandle(), QPoint(300, 150));
   QApplication::processEvents();
   EXPECT_FALSE(hider->hider()->isRevealed());
-  fakeNow += 300 * plat::ticksPerMillisecond;
+  plattest::advanceMs(300);
   timers.process();
   EXPECT_EQ(panel->pos(), QPoint(-90, 120));
 }
